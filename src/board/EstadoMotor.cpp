@@ -1,0 +1,4 @@
+#include "board/EstadoMotor.h"
+
+RegistroTipoJuego TipoJuego;
+int               Salir = 0;

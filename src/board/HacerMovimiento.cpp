@@ -1,0 +1,280 @@
+#include "board/HacerMovimiento.h"
+
+#include <array>
+
+#include "board/Ataques.h"
+#include "board/Color.h"
+#include "board/Comprobacion.h"
+#include "board/EstadoMotor.h"
+#include "board/Geometria.h"
+#include "board/Jugada.h"
+#include "board/Zobrist.h"
+
+namespace {
+
+constexpr std::uint8_t SIN_LINEA = DIRECCIONES;
+
+// LINEAS[king][square]: the direction from the king towards the square when both share a line, else SIN_LINEA.
+constexpr std::array<std::array<std::uint8_t, 64>, 64> CalcularLineas() {
+    std::array<std::array<std::uint8_t, 64>, 64> tabla{};
+    for (unsigned rey = 0; rey < 64; ++rey) {
+        tabla[rey].fill(SIN_LINEA);
+        for (unsigned dir = 0; dir < DIRECCIONES; ++dir)
+            for (int paso = 1; paso <= ALCANCE[rey][dir]; ++paso)
+                tabla[rey][static_cast<unsigned>(static_cast<int>(rey) + paso * PASO[dir])] =
+                    static_cast<std::uint8_t>(dir);
+    }
+    return tabla;
+}
+constexpr auto LINEAS = CalcularLineas();
+
+// The move of the rook that belongs to a king's castling move.
+struct SaltoTorre {
+    int Desde;
+    int Hasta;
+};
+template <int C>
+constexpr int CASA_REY = C == BLANCO ? 60 : 4;
+template <int C>
+SaltoTorre TorreDelEnroque(int hasta_rey) {
+    if (hasta_rey == CASA_REY<C> + 2) return {CASA_REY<C> + 3, CASA_REY<C> + 1};
+    if (hasta_rey == CASA_REY<C> - 2) return {CASA_REY<C> - 4, CASA_REY<C> - 1};
+    Salir = 1;
+    return {hasta_rey, hasta_rey};
+}
+
+template <int C>
+std::uint64_t ClaveEnroque(int estado) {
+    return zobrist_Tablero[FILA_ENROQUE][C == BLANCO ? 63 - estado : estado];
+}
+
+// Sets the castling state and adds its key; the key of the old state stays in.
+template <int C>
+void CambiarEnroque(int estado, std::uint64_t& key) {
+    EnroqueDe<C>() = estado;
+    key ^= ClaveEnroque<C>(estado);
+}
+
+template <int C>
+void Enrocar(int hasta, std::uint64_t& key) {
+    int*             casillas = TableroGlobal.Casillas;
+    const SaltoTorre torre    = TorreDelEnroque<C>(hasta);
+    const int        pieza    = casillas[torre.Desde];
+    PosicionReyDe<C>()        = hasta;
+    casillas[torre.Desde]     = VACIO;
+    casillas[torre.Hasta]     = pieza;
+    key ^= zobrist_Tablero[pieza][torre.Desde] ^ zobrist_Tablero[pieza][torre.Hasta];
+    CambiarEnroque<C>(hasta > CASA_REY<C> ? ENROCADO_CORTO : ENROCADO_LARGO, key);
+}
+
+// A king or rook that moves gives up rights; the states after castling are left alone.
+template <int C>
+void PerderEnroque(int desde, int pieza, std::uint64_t& key) {
+    const int estado = EnroqueDe<C>();
+    if (estado < ENROQUE_CORTO || estado > ENROQUE_AMBOS) return;
+    if (pieza == REY<C>) {
+        CambiarEnroque<C>(SIN_ENROQUE, key);
+    } else if (pieza == TORRE<C>) {
+        const int perdido = desde == CASA_REY<C> + 3 ? ENROQUE_CORTO : desde == CASA_REY<C> - 4 ? ENROQUE_LARGO : 0;
+        if ((estado & perdido) != 0) CambiarEnroque<C>(estado & ~perdido, key);
+    }
+}
+
+template <int C>
+void Coronar(int hasta, int coronada, std::uint64_t& key) {
+    if (coronada < CABALLO<C> || coronada > DAMA<C>) {
+        Salir = 1;
+        return;
+    }
+    key ^= zobrist_Tablero[PEON<C>][hasta] ^ zobrist_Tablero[coronada][hasta];
+    TableroGlobal.Casillas[hasta] = coronada;
+    --BandoDe<C>().Peones;
+    ++(BandoDe<C>().*CONTADOR[coronada]);
+}
+
+void GuardarEstado(std::uint32_t mov) {
+    RegistroTablero& t  = TableroGlobal;
+    EstadoDeshacer&  e  = t.Deshacer[t.Ply];
+    e.Key               = t.Key;
+    e.Movimiento        = mov;
+    e.PosicionReyBlanco = t.PosicionReyBlanco;
+    e.PosicionReyNegro  = t.PosicionReyNegro;
+    e.EnroqueBlancas    = t.EnroqueBlancas;
+    e.EnroqueNegras     = t.EnroqueNegras;
+    e.FichaAlPaso       = t.FichaAlPaso;
+    e.Regla50           = t.Regla50;
+}
+
+void RestaurarEstado(const EstadoDeshacer& e) {
+    RegistroTablero& t  = TableroGlobal;
+    t.Key               = e.Key;
+    t.PosicionReyBlanco = e.PosicionReyBlanco;
+    t.PosicionReyNegro  = e.PosicionReyNegro;
+    t.EnroqueBlancas    = e.EnroqueBlancas;
+    t.EnroqueNegras     = e.EnroqueNegras;
+    t.FichaAlPaso       = e.FichaAlPaso;
+    t.Regla50           = e.Regla50;
+}
+
+void CerrarMovimiento(std::uint64_t key) {
+    RegistroTablero& t = TableroGlobal;
+    t.Key              = key;
+    if (t.NumeroKeys < KEYS_MAX) t.HistorialKeys[t.NumeroKeys++] = key;
+    if (t.Ply < PLIES_MAX - 1) ++t.Ply;
+    t.Turno ^= 1;
+}
+
+void AbrirDeshacer() {
+    RegistroTablero& t = TableroGlobal;
+    if (t.NumeroKeys > 0) --t.NumeroKeys;
+    if (t.Ply > 0) --t.Ply;
+    t.Turno ^= 1;
+}
+
+template <int C>
+int ReyAtacado() {
+    return C == BLANCO ? JaqueBlancas(PosicionReyDe<C>()) : JaqueNegras(PosicionReyDe<C>());
+}
+
+// A king that was safe can only be exposed along the line that a piece has left.
+template <int C>
+bool LineaAbierta(int desde) {
+    constexpr int R   = RIVAL<C>;
+    int           rey = PosicionReyDe<C>();
+    const int     dir = LINEAS[static_cast<unsigned>(rey)][static_cast<unsigned>(desde)];
+    if (dir == SIN_LINEA) return false;
+    for (int pasos = ALCANCE[static_cast<unsigned>(rey)][static_cast<unsigned>(dir)]; pasos > 0; --pasos) {
+        rey += PASO[dir];
+        const int pieza = TableroGlobal.Casillas[rey];
+        if (pieza != VACIO) return pieza == DAMA<R> || pieza == (dir < PRIMERA_RECTA ? ALFIL<R> : TORRE<R>);
+    }
+    return false;
+}
+
+template <int C>
+int Hacer(std::uint32_t mov, int en_jaque) {
+    RegistroTablero& t     = TableroGlobal;
+    const int        desde = Desde(mov);
+    const int        hasta = Hasta(mov);
+    const int        pieza = t.Casillas[desde];
+    std::uint64_t    key   = t.Key;
+    GuardarEstado(mov);
+
+    if (EsEnroque(mov)) {
+        Enrocar<C>(hasta, key);
+    } else {
+        PerderEnroque<C>(desde, pieza, key);
+        if (pieza == REY<C>) PosicionReyDe<C>() = hasta;
+    }
+    t.Casillas[hasta] = pieza;
+    t.Casillas[desde] = VACIO;
+    key ^= zobrist_Tablero[pieza][desde] ^ zobrist_Tablero[pieza][hasta];
+
+    if ((mov & (BIT_AL_PASO | BIT_DOBLE_AVANCE)) != 0) {
+        if (EsAlPaso(mov)) {
+            key ^= zobrist_Tablero[PEON<RIVAL<C>>][t.FichaAlPaso];
+            t.Casillas[t.FichaAlPaso] = VACIO;
+            --BandoDe<RIVAL<C>>().Peones;
+            t.FichaAlPaso = 0;
+        } else {
+            key ^= zobrist_Tablero[FILA_AL_PASO][hasta];
+            t.FichaAlPaso = hasta;
+        }
+    } else if (t.FichaAlPaso != 0) {
+        key ^= zobrist_Tablero[FILA_AL_PASO][t.FichaAlPaso];
+        t.FichaAlPaso = 0;
+    }
+
+    ++t.Regla50;
+    if (pieza == PEON<C>) t.Regla50 = 0;
+    if (EsCaptura(mov)) {
+        const int capturada = PiezaCapturada(mov);
+        t.Regla50           = 0;
+        if (CONTADOR[capturada] != nullptr) {
+            key ^= zobrist_Tablero[capturada][hasta];
+            --(BandoDe<RIVAL<C>>().*CONTADOR[capturada]);
+        } else {
+            Salir = 1;
+        }
+    }
+    if (EsCoronacion(mov)) Coronar<C>(hasta, PiezaCoronada(mov), key);
+
+    CerrarMovimiento(key ^ zobrist_Turno);
+    if (en_jaque != 0 || pieza == REY<C> || EsAlPaso(mov)) return ReyAtacado<C>() ^ 1;
+    return LineaAbierta<C>(desde) ? 0 : 1;
+}
+
+template <int C>
+void Deshacer(const EstadoDeshacer& estado) {
+    RegistroTablero&    t     = TableroGlobal;
+    const std::uint32_t mov   = estado.Movimiento;
+    const int           desde = Desde(mov);
+    const int           hasta = Hasta(mov);
+    if (EsEnroque(mov)) {
+        const SaltoTorre torre  = TorreDelEnroque<C>(hasta);
+        t.Casillas[torre.Desde] = t.Casillas[torre.Hasta];
+        t.Casillas[torre.Hasta] = VACIO;
+    }
+    t.Casillas[desde] = t.Casillas[hasta];
+    t.Casillas[hasta] = VACIO;
+    if (EsAlPaso(mov)) {
+        t.Casillas[estado.FichaAlPaso] = PEON<RIVAL<C>>;
+        ++BandoDe<RIVAL<C>>().Peones;
+    } else if (EsCaptura(mov)) {
+        const int capturada = PiezaCapturada(mov);
+        t.Casillas[hasta]   = capturada;
+        if (CONTADOR[capturada] != nullptr)
+            ++(BandoDe<RIVAL<C>>().*CONTADOR[capturada]);
+        else
+            Salir = 1;
+    }
+    if (EsCoronacion(mov)) {
+        t.Casillas[desde] = PEON<C>;
+        ++BandoDe<C>().Peones;
+        --(BandoDe<C>().*CONTADOR[PiezaCoronada(mov)]);
+    }
+    RestaurarEstado(estado);
+}
+
+}  // namespace
+
+int HacerMovimientoConJaque(std::uint32_t movimiento, int en_jaque) {
+    COMPROBAR_ANTES_DE_HACER();
+    const int legal =
+        EsBlanca(PiezaMovida(movimiento)) ? Hacer<BLANCO>(movimiento, en_jaque) : Hacer<NEGRO>(movimiento, en_jaque);
+    COMPROBAR_DESPUES_DE_HACER(legal);
+    return legal;
+}
+
+int HacerMovimiento(std::uint32_t movimiento) {
+    return HacerMovimientoConJaque(movimiento, 1);
+}
+
+void DeshacerMovimiento() {
+    AbrirDeshacer();
+    const EstadoDeshacer& estado = TableroGlobal.Deshacer[TableroGlobal.Ply];
+    if (EsBlanca(PiezaMovida(estado.Movimiento)))
+        Deshacer<BLANCO>(estado);
+    else
+        Deshacer<NEGRO>(estado);
+    COMPROBAR_DESPUES_DE_DESHACER();
+}
+
+void HacerMovimientoNull() {
+    RegistroTablero& t   = TableroGlobal;
+    std::uint64_t    key = t.Key ^ zobrist_Turno;
+    COMPROBAR_ANTES_DE_HACER();
+    GuardarEstado(t.Deshacer[t.Ply].Movimiento);
+    if (t.FichaAlPaso != 0) {
+        key ^= zobrist_Tablero[FILA_AL_PASO][t.FichaAlPaso];
+        t.FichaAlPaso = 0;
+    }
+    ++t.Regla50;
+    CerrarMovimiento(key);
+}
+
+void DeshacerMovimientoNull() {
+    AbrirDeshacer();
+    RestaurarEstado(TableroGlobal.Deshacer[TableroGlobal.Ply]);
+    COMPROBAR_DESPUES_DE_DESHACER();
+}

@@ -1,0 +1,35 @@
+#include "book/LibroSql.h"
+
+#include <cstring>
+
+RegistroLibroSql LibroSql{.Conexion     = nullptr,
+                          .Sentencia    = nullptr,
+                          .Terminado    = 0,
+                          .OwnBook      = 0,
+                          .OwnBookLimit = LIMITE_LIBRO_VALOR,
+                          .Linea        = {},
+                          .Movimiento   = {},
+                          .Consulta     = {}};
+
+static_assert(LIMITE_LIBRO_MAX * LETRAS_POR_LIMITE <= LINEA_LIBRO_MAX);  // every line within the limit fits
+
+void AbandonarLibro() {
+    LibroSql.Terminado = 1;
+}
+
+void LimpiarLineaLibro() {
+    std::memset(LibroSql.Linea, 0, sizeof LibroSql.Linea);
+}
+
+void FijarLineaLibro(const char* movimientos) {
+    if (LibroSql.OwnBook == 0) {
+        AbandonarLibro();
+        return;
+    }
+    LimpiarLineaLibro();
+    const std::size_t letras = std::strlen(movimientos);
+    if (letras < static_cast<std::size_t>(LibroSql.OwnBookLimit * LETRAS_POR_LIMITE) && letras <= LINEA_LIBRO_MAX)
+        std::memcpy(LibroSql.Linea, movimientos, letras);
+    else
+        AbandonarLibro();
+}

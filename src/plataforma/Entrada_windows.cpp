@@ -1,0 +1,50 @@
+#include <windows.h>
+
+#include "plataforma/EntradaSistema.h"
+
+constexpr DWORD EVENTOS_MAX = 512;  // console events that one test looks at
+
+static int    init = 0;  // 1 once the input has been examined, on the first poll
+static HANDLE inh  = nullptr;
+static int    pipe = 0;  // 1 for a pipe or a file, 0 for a console
+
+static void ExaminarEntrada() {
+    init       = 1;
+    inh        = GetStdHandle(STD_INPUT_HANDLE);
+    DWORD modo = 0;
+    pipe       = GetConsoleMode(inh, &modo) == 0 ? 1 : 0;
+    if (pipe != 0) return;
+    SetConsoleMode(inh, modo & ~static_cast<DWORD>(ENABLE_WINDOW_INPUT | ENABLE_MOUSE_INPUT));
+    FlushConsoleInputBuffer(inh);
+}
+
+static bool EsRetorno(const INPUT_RECORD& evento) {
+    return evento.EventType == KEY_EVENT && evento.Event.KeyEvent.bKeyDown != 0 &&
+           evento.Event.KeyEvent.wVirtualKeyCode == VK_RETURN;
+}
+
+// A console delivers whole lines, so reading it waits for the return key, whatever else has been typed.
+static int HayLineaDeConsola() {
+    DWORD numero = 0;
+    if (GetNumberOfConsoleInputEvents(inh, &numero) == 0 || numero < 2) return 0;
+    static INPUT_RECORD eventos[EVENTOS_MAX];
+    if (PeekConsoleInputA(inh, eventos, EVENTOS_MAX, &numero) == 0) return 0;
+    for (DWORD i = 0; i < numero; ++i)
+        if (EsRetorno(eventos[i])) return 1;
+    return 0;
+}
+
+int LeerBytes(char* destino, int capacidad) {
+    DWORD leidos = 0;
+    if (ReadFile(GetStdHandle(STD_INPUT_HANDLE), destino, static_cast<DWORD>(capacidad), &leidos, nullptr) == 0)
+        return 0;
+    return static_cast<int>(leidos);
+}
+
+int HayBytes() {
+    if (init == 0) ExaminarEntrada();
+    if (pipe == 0) return HayLineaDeConsola();
+    DWORD esperan = 0;
+    if (PeekNamedPipe(inh, nullptr, 0, nullptr, &esperan, nullptr) == 0) return 1;  // a file, or a closed pipe
+    return esperan != 0 ? 1 : 0;
+}

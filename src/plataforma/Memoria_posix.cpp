@@ -1,0 +1,32 @@
+#include <sys/mman.h>
+
+#include <cstdint>
+
+#include "plataforma/Memoria.h"
+
+static std::size_t RedondearAPaginas(std::size_t bytes) {
+    return (bytes + PAGINA_GRANDE - 1) / PAGINA_GRANDE * PAGINA_GRANDE;
+}
+
+// One page more than needed is mapped, and what lies before and behind the aligned block is given back.
+void* ReservarMemoria(std::size_t bytes) {
+    if (bytes == 0 || bytes > SIZE_MAX - 2 * PAGINA_GRANDE) return nullptr;
+    const std::size_t longitud = RedondearAPaginas(bytes);
+    void* const       zona =
+        mmap(nullptr, longitud + PAGINA_GRANDE, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (zona == MAP_FAILED) return nullptr;
+
+    const std::size_t sobra  = reinterpret_cast<std::uintptr_t>(zona) % PAGINA_GRANDE;
+    const std::size_t antes  = sobra == 0 ? 0 : PAGINA_GRANDE - sobra;
+    char* const       bloque = static_cast<char*>(zona) + antes;
+    if (antes != 0) munmap(zona, antes);
+    munmap(bloque + longitud, PAGINA_GRANDE - antes);
+#ifdef MADV_HUGEPAGE
+    madvise(bloque, longitud, MADV_HUGEPAGE);  // a wish: without large pages the block serves just as well
+#endif
+    return bloque;
+}
+
+void LiberarMemoria(void* memoria, std::size_t bytes) {
+    if (memoria != nullptr) munmap(memoria, RedondearAPaginas(bytes));
+}

@@ -1,0 +1,116 @@
+#include "board/Posicion.h"
+
+#include "board/Ayudas.h"
+#include "board/Fen.h"
+#include "board/Palabras.h"
+
+using Posicion = Tablero;
+
+static std::string Mandar(const std::string& texto) {
+    testing::internal::CaptureStdout();
+    Position_Fen_Startpos(texto.c_str());
+    return testing::internal::GetCapturedStdout();
+}
+
+TEST_F(Posicion, CamposDelFen) {
+    struct Caso {
+        const char* fen;
+        int         turno, blancas, negras, al_paso, regla50;
+    };
+    const Caso CASOS[] = {
+        {"rnbqkbnr/pppppppp/8/8/8/8/PPPPPPPP/RNBQKBNR w KQkq - 3 9", 1, 3, 3, 0, 3},
+        {"4k3/8/8/8/8/8/8/4K3 b qk - 0 1", 0, 0, 2, 0, 0},      // letters out of their order are lost
+        {"4k3/8/8/8/8/8/8/4K3 x Kq e3 5", 0, 1, 2, 36, 5},      // any other letter is Black
+        {"4k3/8/8/8/8/8/8/4K3 w - e6 0 1", 1, 0, 0, 28, 0},     // the side to move is not consulted
+        {"4k3/8/8/8/8/8/8/4K3 w - e4 150 1", 1, 0, 0, 0, 100},  // no square of an advance; the clock is capped
+        {"4k3/8/8/8/8/8/8/4K3 w - - 99999999999999999999 1", 1, 0, 0, 0, 100},
+        {"4k3/8/8/8/8/8/8/4K3 w - - x7 1", 1, 0, 0, 0, 0},
+        {"4k3/8/8/8/8/8/8/4K3 w", 1, 0, 0, 0, 0},
+        {"4k3/8/8/8/8/8/8/4K3", 1, 0, 0, 0, 0},            // the side to move stays as it was
+        {"4k3x8x8x8x8x8x8x4K3 w - - 4 1", 1, 0, 0, 0, 4},  // the separator is not examined
+        {"4k8/3/8/8/8/8/8/4K3 w - - 4 1", 1, 0, 0, 0, 4},  // digits may run on into the next rank
+    };
+    for (const Caso& caso : CASOS) {
+        SCOPED_TRACE(caso.fen);
+        Mandar("startpos");
+        EXPECT_EQ(Mandar(std::string("fen ") + caso.fen), "");
+        const RegistroTablero& t = TableroGlobal;
+        EXPECT_EQ(t.Turno, caso.turno);
+        EXPECT_EQ(t.EnroqueBlancas, caso.blancas);
+        EXPECT_EQ(t.EnroqueNegras, caso.negras);
+        EXPECT_EQ(t.FichaAlPaso, caso.al_paso);
+        EXPECT_EQ(t.Regla50, caso.regla50);
+        EXPECT_EQ(t.NumeroKeys, caso.regla50);
+        EXPECT_EQ(t.PosicionReyNegro, 4);
+        EXPECT_EQ(t.PosicionReyBlanco, 60);
+        EXPECT_EQ(t.TurnoRaiz, t.Turno);
+        EXPECT_EQ(t.Key, ObtenerKey());
+    }
+}
+
+TEST_F(Posicion, FenMalFormadoDejaLaInicial) {
+    for (const char* fen : {"", "8/8/8/8/8/8/8 w - - 0 1", "rnbqkbnr/ppppXppp/8/8/8/8/8/8 w - - 0 1",
+                            "8/8/8/8/8/8/8/18 w - - 0 1", "9/8/8/8/8/8/8/8 w", "4k3/8/8/8/8/8/8/4K2 w - - 0 1"}) {
+        SCOPED_TRACE(fen);
+        EXPECT_EQ(Mandar(std::string("fen ") + fen + " moves e2e4"), "info string Formato FEN incorrecto.\n");
+        EXPECT_EQ(TableroGlobal.Casillas[52], PEON_B);
+        EXPECT_EQ(Blancas.Peones, 8);
+        EXPECT_EQ(Negras.Damas, 1);
+        EXPECT_EQ(TipoJuego.MovimientosJugados, 0);
+    }
+}
+
+TEST_F(Posicion, ListaDeMovimientos) {
+    EXPECT_EQ(Mandar(" startpos moves e2e4 e7e5"), "");
+    EXPECT_EQ(TableroGlobal.FichaAlPaso, 28);
+    EXPECT_EQ(TableroGlobal.NumeroKeys, 4);
+    EXPECT_EQ(TableroGlobal.HistorialKeys[2], TableroGlobal.HistorialKeys[3]);
+    EXPECT_EQ(TableroGlobal.TurnoRaiz, 1);
+    EXPECT_EQ(TipoJuego.MovimientosJugados, 2);
+
+    Mandar("anything moves e2e4 e7e4 e7e5 e7e8Q");  // unknown moves after the first are skipped
+    EXPECT_EQ(TipoJuego.MovimientosJugados, 2);
+    EXPECT_EQ(Salir, 0);
+
+    Mandar("fen 4k3/8/8/8/8/8/4q3/4K3 w - - 0 1 moves e1d1");  // into check: played all the same
+    EXPECT_EQ(TableroGlobal.PosicionReyBlanco, 59);
+
+    EXPECT_EQ(Mandar("startpos moves e2e5"),
+              "info string Movimiento ilegal: e2e5\ninfo string Enroque Blancas: 3\ninfo string Enroque Negras: 3\n"
+              "info string Ficha al Paso: 0\ninfo string Posici\363n Rey Blanco: 60\n"
+              "info string Posici\363n Rey Negro: 4\n");
+    EXPECT_EQ(Salir, 1);
+}
+
+// The history never overflows: however long the game, the last positions stand in it twice each.
+TEST_F(Posicion, PartidaMuyLarga) {
+    std::string partida = "startpos moves";
+    for (int i = 0; i < 200; ++i) partida += " g1f3 g8f6 f3g1 f6g8";
+    EXPECT_EQ(Mandar(partida), "");
+    const RegistroTablero& t = TableroGlobal;
+    EXPECT_EQ(TipoJuego.MovimientosJugados, 800);
+    EXPECT_EQ(t.Regla50, 800);
+    ASSERT_LE(t.NumeroKeys + PLIES_MAX, KEYS_MAX);
+    for (int i = 1; i <= 200; ++i) {
+        const int actual = t.NumeroKeys - i;
+        ASSERT_EQ(t.HistorialKeys[actual] == t.Key, (i - 1) / 2 % 4 == 0) << i;
+    }
+}
+
+TEST_F(Posicion, Palabras) {
+    char        palabra[PALABRA_MAX];
+    const char* resto = Split_String("  go\tx infinite", palabra);
+    EXPECT_STREQ(palabra, "go\tx");
+    Split_String(resto, palabra);
+    EXPECT_STREQ(palabra, "infinite");
+    EXPECT_STREQ(Split_String("abc\240def", palabra), "\240def");
+    EXPECT_STREQ(palabra, "abc");
+    EXPECT_STREQ(Split_String("\200x", palabra), "\200x");
+    EXPECT_STREQ(palabra, "");
+    EXPECT_STREQ(Split_String(std::string(200, 'a').c_str(), palabra), "");
+    EXPECT_EQ(std::string(palabra), std::string(78, 'a'));
+    EXPECT_TRUE(Es_Numero("007") && !Es_Numero("") && !Es_Numero("-1") && !Es_Numero("1.5") && !Es_Numero("5 "));
+    EXPECT_EQ(NumeroDe32Bits("4294967297"), 1);
+    EXPECT_EQ(NumeroDe32Bits("99999999999999999999"), -1);
+    EXPECT_EQ(NumeroAcotado("4294967297", 32), 32);
+}
