@@ -1,0 +1,138 @@
+#include "eval/Evaluar.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "board/Color.h"
+#include "eval/Amenazas.h"
+#include "eval/Apertura.h"
+#include "eval/EvalComun.h"
+#include "eval/Finales.h"
+#include "eval/FinalesDificiles.h"
+#include "eval/Material.h"
+#include "eval/Peones.h"
+#include "eval/Piezas.h"
+#include "eval/SeguridadRey.h"
+#include "eval/Torres.h"
+#include "search/Puntuacion.h"
+#include "search/Transposicion.h"
+
+int AJUSTE_MOB[2];
+int AJUSTE_ATT[2];
+
+namespace {
+
+constexpr int   PESO_PROPIO      = 100;  // percent
+constexpr int   PESO_RIVAL       = 104;
+constexpr int   PESO_TROPISMO    = 20;
+constexpr int   BONUS_TURNO_OP   = 5;  // centipawns for the right to move
+constexpr int   BONUS_TURNO_EG   = 10;
+constexpr int   FASE_FINAL       = 9;    // the recognisers of endings are asked up to this phase
+constexpr int   ATAQUE_VALOR_MAX = 399;  // last entry of KING_ATTACK_MULTI
+constexpr int   SIN_CAMBIO       = 100;  // percent, FinalesReconocidos
+constexpr int   FINAL_TABLAS     = 0;
+constexpr float INVERSO_FASE_MAX = 0.041666668F;
+
+// A score as the side to move sees it, from White's view, and the other way round.
+int DesdeTurno(int puntos) {
+    return TableroGlobal.Turno == BLANCO ? puntos : -puntos;
+}
+
+EntradaCache* EntradaDeCache() {
+    if (TT_Cache == nullptr || TT_Opciones.MegasCache == 0) return nullptr;
+    return &TT_Cache[TableroGlobal.Key % TT_Opciones.NumeroCache];
+}
+
+int FactorFinal() {
+    return FinalesReconocidos(Blancas.Peones, Blancas.Caballos, Blancas.Alfiles, Blancas.Torres, Blancas.Damas,
+                              Negras.Peones, Negras.Caballos, Negras.Alfiles, Negras.Torres, Negras.Damas);
+}
+
+// What the endgame knowledge answers by itself, for the side to move, or NO_RECONOCIDO.
+int PuntosFinalReconocido() {
+    if (SoloReyes() || Material_Insuficiente() || FactorFinal() == FINAL_TABLAS) return VALOR_TABLAS;
+    return EvaluarFinalesDificiles();
+}
+
+// The attack on the enemy king needs two pieces and a queen on the attacking side.
+int PuntosAtaque(RegistroBando& bando, int peso) {
+    if (bando.Ataque_Numero <= 1) return 0;
+    bando.Ataque_Valor = bando.Damas == 0 ? 0 : std::min(bando.Ataque_Valor, ATAQUE_VALOR_MAX);
+    return Porcentaje(KING_ATTACK_MULTI[bando.Ataque_Valor], peso);
+}
+
+template <int C>
+void SumarEscalados() {
+    RegistroBando& bando  = BandoDe<C>();
+    const int      ataque = PuntosAtaque(bando, AJUSTE_ATT[C]);
+    bando.Puntos_OP += Porcentaje(bando.Movilidad_OP, AJUSTE_MOB[C]) + Porcentaje(bando.Tropismo_OP, PESO_TROPISMO);
+    bando.Puntos_EG += Porcentaje(bando.Movilidad_EG, AJUSTE_MOB[C]) + Porcentaje(bando.Tropismo_EG, PESO_TROPISMO);
+    bando.Puntos_OP += ataque;
+    bando.Puntos_EG += ataque;
+}
+
+void SumarTurno() {
+    RegistroBando& bando = TableroGlobal.Turno == BLANCO ? Blancas : Negras;
+    bando.Puntos_OP += BONUS_TURNO_OP;
+    bando.Puntos_EG += BONUS_TURNO_EG;
+}
+
+// The accumulated terms of both sides as one score from White's view.
+int Reunir() {
+    int puntos =
+        Interpolate(Blancas.Puntos_OP - Negras.Puntos_OP, Blancas.Puntos_EG - Negras.Puntos_EG, TableroGlobal.Fase) +
+        DesequilibrioPiezas();
+    // A dead draw is left to the recognisers' own gate: outside it the score stands.
+    const int factor = FactorFinal();
+    if (factor != SIN_CAMBIO && factor != FINAL_TABLAS) puntos = Porcentaje(puntos, factor);
+    return std::clamp(puntos, -UMBRAL_MATE, UMBRAL_MATE);
+}
+
+}  // namespace
+
+int Interpolate(int puntos_op, int puntos_eg, int fase) {
+    const int opening = std::min(fase, FASE_MAX);
+    return Truncar(puntos_op * opening + puntos_eg * (FASE_MAX - fase), INVERSO_FASE_MAX);
+}
+
+int Evaluar() {
+    LimpiarPuntuacion(0);
+    Material_Imbalance();
+    TableroGlobal.Fase = CalcularFase();
+
+    EntradaCache* const entrada = EntradaDeCache();
+    if (entrada != nullptr && entrada->Key == TableroGlobal.Key) return DesdeTurno(entrada->Puntos);
+
+    EvaluarApertura();
+    EvaluarPiezasTableroJuego();  // before the endings, which use the attacks that it finds
+    if (TableroGlobal.Fase <= FASE_FINAL) {
+        const int puntos = PuntosFinalReconocido();
+        if (puntos != NO_RECONOCIDO) return puntos;
+    }
+    EvaluarPeonesB();
+    EvaluarPeonesN();
+    EvaluarTorreB();
+    EvaluarTorreN();
+    EvaluarReyes();
+    EvaluarAmenazas();
+    SumarEscalados<BLANCO>();
+    SumarEscalados<NEGRO>();
+    SumarTurno();
+
+    const int puntos = Reunir();
+    if (entrada != nullptr) *entrada = {TableroGlobal.Key, static_cast<std::int16_t>(puntos)};
+    return DesdeTurno(puntos);
+}
+
+void Iniciar_Asimetrico() {
+    const int propio   = TableroGlobal.Turno == BLANCO ? BLANCO : NEGRO;
+    const int rival    = 1 - propio;
+    AJUSTE_MOB[propio] = AJUSTE_ATT[propio] = PESO_PROPIO;
+    AJUSTE_MOB[rival] = AJUSTE_ATT[rival] = PESO_RIVAL;
+}
+
+void Iniciar_Evaluacion() {
+    Iniciar_Piezas();
+    Iniciar_SeguridadRey();
+    Iniciar_Finales();
+}

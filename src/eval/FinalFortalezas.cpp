@@ -1,0 +1,96 @@
+#include "eval/FinalFortalezas.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "eval/Espejo.h"
+#include "eval/FinalesDificiles.h"
+
+namespace {
+
+constexpr int PUNTOS_FORTALEZA = 25;  // centipawns: drawn, but the side that may try keeps trying
+
+// Opposite-coloured bishops, centipawns. A pawn counts for less than half of its worth while the other bishop and
+// king can stop it, and for more once there are two more of them than they can watch.
+constexpr int PEON_ALFILES         = 35;
+constexpr int PEON_ALFILES_DOS_MAS = 65;
+constexpr int DIFERENCIA_MAX       = 2;
+constexpr int PASADO_ALFILES[8]    = {0, 80, 50, 30, 15, 8, 4, 0};  // by steps to promotion
+constexpr int PESO_CENTRO          = 3;
+
+// The files of one colour's pawns are all the given rook file.
+bool PeonesEnColumna(const RegistroFinal& pos, int columna) {
+    for (int i = 0; i < pos.Numero[PEON_B]; ++i)
+        if (Columna(pos.Casillas[PEON_B][i]) != columna) return false;
+    return pos.Numero[PEON_B] > 0;
+}
+
+bool AlfilesFueraDe(const RegistroFinal& pos, int casilla) {
+    for (int i = 0; i < pos.Numero[ALFIL_B]; ++i)
+        if (MismoColor(pos.Casillas[ALFIL_B][i], casilla)) return false;
+    return true;
+}
+
+// No pawn of the other side can stop this one or take it on its way.
+bool EsPasado(const RegistroFinal& pos, int codigo, int peon) {
+    const int rival   = codigo == PEON_B ? PEON_N : PEON_B;
+    const int sentido = codigo == PEON_B ? -1 : 1;
+    for (int i = 0; i < pos.Numero[rival]; ++i) {
+        const int otro = pos.Casillas[rival][i];
+        if (Absoluto(Columna(otro) - Columna(peon)) <= 1 && (Fila(otro) - Fila(peon)) * sentido > 0) return false;
+    }
+    return true;
+}
+
+// Worth of one side's pawns; a passed one counts half when the enemy bishop covers the square before it.
+int PeonesConAlfiles(const RegistroFinal& pos, int codigo, int valorPeon) {
+    const bool fuerte     = codigo == PEON_B;
+    const int  alfilRival = Una(pos, fuerte ? ALFIL_N : ALFIL_B);
+    int        suma       = 0;
+    for (int i = 0; i < pos.Numero[codigo]; ++i) {
+        const int peon = pos.Casillas[codigo][i];
+        suma += valorPeon;
+        if (!EsPasado(pos, codigo, peon)) continue;
+        const int pasos   = PasosHastaCoronar(fuerte ? peon : Reflejada(peon));
+        const int bloqueo = MismoColor(peon, alfilRival) ? 1 : 2;  // the next square has the other colour
+        suma += PASADO_ALFILES[pasos] * bloqueo / 2;
+    }
+    return suma;
+}
+
+}  // namespace
+
+bool EsFortalezaPeonTorre(const RegistroFinal& pos) {
+    const int peon   = Una(pos, PEON_B);
+    const int rincon = Coronacion(peon);
+    if (!EsColumnaTorre(peon) || DistanciaRey(Una(pos, REY_N), rincon) > 1) return false;
+    if (!PeonesEnColumna(pos, Columna(peon)) || !AlfilesFueraDe(pos, rincon)) return false;
+    if (pos.Numero[CABALLO_B] == 0) return true;
+    return pos.Numero[CABALLO_B] == 1 && pos.Numero[ALFIL_B] == 0 && pos.Numero[PEON_B] == 1 &&
+           PasosHastaCoronar(peon) == 1;
+}
+
+int EvaluarAlfilPeonContraMenor(const RegistroFinal& pos) {
+    const int  debil   = Una(pos, REY_N);
+    const int  peon    = Una(pos, PEON_B);
+    const bool delante = Columna(debil) == Columna(peon) && Fila(debil) < Fila(peon);
+    return delante && !MismoColor(debil, Una(pos, ALFIL_B)) ? TABLAS_SEGURAS : NO_RECONOCIDO;
+}
+
+int EvaluarAlfilesDistintoColor(const RegistroFinal& pos) {
+    const int diferencia = Absoluto(pos.Numero[PEON_B] - pos.Numero[PEON_N]);
+    if (MismoColor(Una(pos, ALFIL_B), Una(pos, ALFIL_N)) || diferencia > DIFERENCIA_MAX) return NO_RECONOCIDO;
+    const int valorPeon = diferencia == DIFERENCIA_MAX ? PEON_ALFILES_DOS_MAS : PEON_ALFILES;
+    return PeonesConAlfiles(pos, PEON_B, valorPeon) - PeonesConAlfiles(pos, PEON_N, valorPeon) +
+           PESO_CENTRO * (LejosDelCentro(Una(pos, REY_N)) - LejosDelCentro(Una(pos, REY_B)));
+}
+
+int EvaluarDamaContraTorrePeon(const RegistroFinal& pos) {
+    const int  torre     = Una(pos, TORRE_N);
+    const int  peon      = Una(pos, PEON_N);
+    const int  rey       = Una(pos, REY_N);
+    const bool sostenida = Fila(peon) == 1 && Fila(torre) == 2 && Absoluto(Columna(peon) - Columna(torre)) == 1;
+    const bool encerrada = sostenida && !EsColumnaTorre(peon) && DistanciaRey(rey, peon) == 1 && Fila(rey) < 2 &&
+                           Fila(Una(pos, REY_B)) > Fila(torre);
+    return encerrada ? PUNTOS_FORTALEZA : NO_RECONOCIDO;
+}

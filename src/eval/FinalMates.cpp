@@ -1,0 +1,106 @@
+#include "eval/FinalMates.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "eval/FinalFortalezas.h"
+#include "eval/FinalKpk.h"
+#include "eval/FinalesDificiles.h"
+
+namespace {
+
+// Centipawns a step, in the way a win is made: king to the edge, kings together, pawns forward.
+constexpr int PESO_BORDE  = 10;
+constexpr int PESO_REYES  = 6;
+constexpr int PESO_AVANCE = 8;
+
+constexpr int BASE_VENTAJA = 150;  // what a decisive advantage is worth beyond its material
+
+constexpr int DISTANCIA_MAX = 7;
+
+// Bishop and knight mate only in a corner of the bishop's colour. The value falls along the edge from those corners,
+// so that a king in a wrong corner is worth driving out, and stays lower away from the edge. Light-squared bishop;
+// for a dark-squared one the files are mirrored.
+// clang-format off
+constexpr int RINCON_CABALLO_ALFIL[64] = {  // centipawns
+//    a    b    c    d    e    f    g    h
+    200, 180, 160, 140, 120, 100,  90,  80,   // 8
+    180, 160, 130, 110,  90,  70,  60,  90,   // 7
+    160, 130,  80,  60,  50,  40,  70, 100,   // 6
+    140, 110,  60,  20,  10,  50,  90, 120,   // 5
+    120,  90,  50,  10,  20,  60, 110, 140,   // 4
+    100,  70,  40,  50,  60,  80, 130, 160,   // 3
+     90,  60,  70,  90, 110, 130, 160, 180,   // 2
+     80,  90, 100, 120, 140, 160, 180, 200};  // 1
+// clang-format on
+
+struct RecuentoFuerte {
+    int  Peones;
+    int  Caballos;
+    int  Alfiles;
+    int  Pesadas;
+    bool AlfilesDistintos;  // bishops on both colours
+};
+
+RecuentoFuerte ContarFuerzas(const RegistroFinal& pos) {
+    RecuentoFuerte fuerzas{pos.Numero[PEON_B], pos.Numero[CABALLO_B], pos.Numero[ALFIL_B],
+                           pos.Numero[TORRE_B] + pos.Numero[DAMA_B], false};
+    for (int i = 1; i < fuerzas.Alfiles; ++i)
+        fuerzas.AlfilesDistintos |= !MismoColor(pos.Casillas[ALFIL_B][0], pos.Casillas[ALFIL_B][i]);
+    return fuerzas;
+}
+
+bool PuedenDarMate(const RecuentoFuerte& fuerzas) {
+    return fuerzas.Pesadas > 0 || fuerzas.AlfilesDistintos || (fuerzas.Alfiles > 0 && fuerzas.Caballos > 0) ||
+           fuerzas.Caballos > 2;
+}
+
+int Acoso(const RegistroFinal& pos) {
+    const int debil = Una(pos, REY_N);
+    return PESO_BORDE * LejosDelCentro(debil) + PESO_REYES * (DISTANCIA_MAX - DistanciaRey(Una(pos, REY_B), debil));
+}
+
+int AvancePeones(const RegistroFinal& pos) {
+    int suma = 0;
+    for (int i = 0; i < pos.Numero[PEON_B]; ++i)
+        suma += PESO_AVANCE * (DISTANCIA_MAX - PasosHastaCoronar(pos.Casillas[PEON_B][i]));
+    return suma;
+}
+
+int PuntosVictoria(const RegistroFinal& pos, int progreso) {
+    return std::min(VICTORIA + ValorMaterial(pos, PEON_B) + AvancePeones(pos) + progreso, VICTORIA_MAXIMA);
+}
+
+int ProgresoCaballoAlfil(const RegistroFinal& pos) {
+    const int debil  = Una(pos, REY_N);
+    const int espejo = ColorCasilla(Una(pos, ALFIL_B)) == ColorCasilla(0) ? 0 : 7;
+    return RINCON_CABALLO_ALFIL[static_cast<std::size_t>(debil ^ espejo)] +
+           PESO_REYES * (DISTANCIA_MAX - DistanciaRey(Una(pos, REY_B), debil)) -
+           DistanciaRey(Una(pos, CABALLO_B), debil);
+}
+
+// Some pawn would win if the others and the pieces were not there.
+bool GanaAlgunPeon(const RegistroFinal& pos) {
+    for (int i = 0; i < pos.Numero[PEON_B]; ++i)
+        if (KpkGana(Una(pos, REY_B), pos.Casillas[PEON_B][i], Una(pos, REY_N), pos.MueveFuerte) == 1) return true;
+    return false;
+}
+
+}  // namespace
+
+int EvaluarReySolo(const RegistroFinal& pos) {
+    const RecuentoFuerte fuerzas = ContarFuerzas(pos);
+    if (PuedenDarMate(fuerzas)) {
+        const bool caballoAlfil =
+            fuerzas.Caballos == 1 && fuerzas.Alfiles == 1 && fuerzas.Pesadas + fuerzas.Peones == 0;
+        return PuntosVictoria(pos, caballoAlfil ? ProgresoCaballoAlfil(pos) : Acoso(pos));
+    }
+    if (fuerzas.Peones == 0 || EsFortalezaPeonTorre(pos)) return TABLAS_SEGURAS;
+    if (GanaAlgunPeon(pos)) return PuntosVictoria(pos, 0);
+    const bool soloUnPeon = fuerzas.Peones == 1 && fuerzas.Caballos + fuerzas.Alfiles == 0;
+    return soloUnPeon ? TABLAS_SEGURAS : NO_RECONOCIDO;
+}
+
+int EvaluarVentajaSinPeones(const RegistroFinal& pos) {
+    return BASE_VENTAJA + ValorMaterial(pos, PEON_B) - ValorMaterial(pos, PEON_N) + Acoso(pos);
+}

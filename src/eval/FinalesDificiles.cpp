@@ -1,0 +1,86 @@
+#include "eval/FinalesDificiles.h"
+
+#include <cstdint>
+
+#include "board/Color.h"
+#include "eval/ClaveMaterial.h"
+#include "eval/FinalDamaPeon.h"
+#include "eval/FinalFortalezas.h"
+#include "eval/FinalKpk.h"
+#include "eval/FinalMates.h"
+#include "eval/FinalTorrePeon.h"
+#include "eval/Finales.h"
+#include "eval/RegistroFinal.h"
+
+namespace {
+
+using Evaluador = int (*)(const RegistroFinal&);
+
+// Pieces without pawns: the lead that wins against defenders, in centipawns; a rook or about as much.
+constexpr int VENTAJA_DECISIVA = 450;
+
+template <int C>
+std::uint64_t ClaveDe() {
+    const RegistroBando& bando = BandoDe<C>();
+    return ClaveMaterial(bando.Peones, bando.Caballos, bando.Alfiles, bando.Torres, bando.Damas);
+}
+
+// Material decides alone that nothing but the advance of the mate is left to judge.
+int EvaluarSinPeones(const RegistroFinal& pos) {
+    return ValorMaterial(pos, PEON_B) - ValorMaterial(pos, PEON_N) < VENTAJA_DECISIVA ? NO_RECONOCIDO
+                                                                                      : EvaluarVentajaSinPeones(pos);
+}
+
+Evaluador ElegirEvaluador(std::uint64_t fuerte, std::uint64_t debil) {
+    if (debil == 0) return EvaluarReySolo;
+    switch (Enfrentadas(fuerte, debil)) {
+        case Enfrentadas("R", "P"):
+            return EvaluarTorreContraPeon;
+        case Enfrentadas("RP", "R"):
+            return EvaluarTorrePeonContraTorre;
+        case Enfrentadas("Q", "P"):
+            return EvaluarDamaContraPeon;
+        case Enfrentadas("Q", "RP"):
+            return EvaluarDamaContraTorrePeon;
+        case Enfrentadas("BP", "B"):
+        case Enfrentadas("BP", "N"):
+            return EvaluarAlfilPeonContraMenor;
+        default:
+            return nullptr;
+    }
+}
+
+int Consultar(Evaluador evaluador, int fuerte) {
+    if (evaluador == nullptr) return NO_RECONOCIDO;
+    RegistroFinal pos;
+    OrientarFinal(fuerte, pos);
+    const int puntos = evaluador(pos);
+    if (puntos == NO_RECONOCIDO) return NO_RECONOCIDO;
+    return pos.MueveFuerte ? puntos : -puntos;
+}
+
+bool SinCambioPorMaterial() {
+    return FinalesReconocidos(Blancas.Peones, Blancas.Caballos, Blancas.Alfiles, Blancas.Torres, Blancas.Damas,
+                              Negras.Peones, Negras.Caballos, Negras.Alfiles, Negras.Torres, Negras.Damas) == 100;
+}
+
+}  // namespace
+
+int EvaluarFinalesDificiles() {
+    const std::uint64_t blancas = ClaveDe<BLANCO>();
+    const std::uint64_t negras  = ClaveDe<NEGRO>();
+
+    int puntos = Consultar(ElegirEvaluador(blancas, negras), BLANCO);
+    if (puntos == NO_RECONOCIDO) puntos = Consultar(ElegirEvaluador(negras, blancas), NEGRO);
+    if (puntos != NO_RECONOCIDO) return puntos;
+
+    if (SinPeones(blancas) == Fuerzas("B") && SinPeones(negras) == Fuerzas("B"))
+        return Consultar(EvaluarAlfilesDistintoColor, BLANCO);
+    if (PeonesDe(blancas) != 0 || PeonesDe(negras) != 0 || !SinCambioPorMaterial()) return NO_RECONOCIDO;
+    puntos = Consultar(EvaluarSinPeones, BLANCO);
+    return puntos != NO_RECONOCIDO ? puntos : Consultar(EvaluarSinPeones, NEGRO);
+}
+
+void Iniciar_Finales() {
+    IniciarKpk();
+}

@@ -1,0 +1,19 @@
+// Material: what the pieces of a side are worth by themselves, together and against the opponent's.
+#pragma once
+
+constexpr int FASE_MAX = 24;  // game phase with all pieces on the board
+
+// Puts the material of each side, with its adjustments, into Puntos_OP and Puntos_EG, over whatever they held.
+void Material_Imbalance();
+
+// Centipawns for White where heavy pieces stand against light ones, such as a queen against three minors.
+int DesequilibrioPiezas();
+
+// Game phase from the pieces of both sides, 0 (pawns and kings) .. FASE_MAX.
+int CalcularFase();
+
+// No pawn nor piece but the kings.
+bool SoloReyes();
+
+// No pawns, rooks or queens, and at most one minor piece a side.
+bool Material_Insuficiente();

@@ -1,0 +1,257 @@
+// The structure is found for all pawns of a side at once, as sets of squares in which a step or a scan is a shift; what
+// each property is worth is then added pawn by pawn.
+#include "eval/Peones.h"
+
+#include "board/Color.h"
+#include "board/Geometria.h"
+#include "eval/Espejo.h"
+#include "eval/EvalComun.h"
+#include "eval/Listas.h"
+#include "eval/Tropismo.h"
+
+namespace {
+
+// One row of eight equal values a rank, rank 8 first.
+constexpr TablaEspejo PorFilas(const int (&filas)[8]) {
+    int tablero[64] = {};
+    for (int casilla = 0; casilla < 64; ++casilla) tablero[casilla] = filas[Fila(casilla)];
+    return ConEspejo(tablero);
+}
+
+// clang-format off
+constexpr TablaEspejo PST_P_OP = ConEspejo({   // centipawns
+//    a    b    c    d    e    f    g    h
+      0,   0,   0,   0,   0,   0,   0,   0,    // 8
+    -15,  -5,   5,   5,   5,   5,  -5, -15,    // 7
+    -15,  -5,   5,  15,  15,   5,  -5, -15,    // 6
+    -15,  -5,   5,  15,  15,   5,  -5, -15,    // 5
+    -15,  -5,   5,  15,  15,   5,  -5, -15,    // 4
+    -15,  -5,   5,   5,   5,   5,  -5, -15,    // 3
+    -15,  -5,   5,   5,   5,   5,  -5, -15,    // 2
+      0,   0,   0,   0,   0,   0,   0,   0 }); // 1
+
+constexpr TablaEspejo PST_P_EG = ConEspejo({   // the same for both colours
+//    a    b    c    d    e    f    g    h
+      0,   0,   0,   0,   0,   0,   0,   0,    // 8
+      3,   1,  -1,  -3,  -3,  -1,   1,   3,    // 7
+      3,   1,  -1,  -3,  -3,  -1,   1,   3,    // 6
+      3,   1,  -1,  -3,  -3,  -1,   1,   3,    // 5
+      3,   1,  -1,  -3,  -3,  -1,   1,   3,    // 4
+      3,   1,  -1,  -3,  -3,  -1,   1,   3,    // 3
+      3,   1,  -1,  -3,  -3,  -1,   1,   3,    // 2
+      0,   0,   0,   0,   0,   0,   0,   0 }); // 1
+
+// Pawns side by side.
+constexpr TablaEspejo PST_BONUS_FALANGE_OP = ConEspejo({
+//    a    b    c    d    e    f    g    h
+      0,   0,   0,   0,   0,   0,   0,   0,    // 8
+     24,  24,  24,  24,  24,  24,  24,  24,    // 7
+     16,  16,  16,  16,  16,  16,  16,  16,    // 6
+     10,  10,  10,  15,  15,  10,  10,  10,    // 5
+      6,   6,   8,  13,  13,   8,   6,   6,    // 4
+      2,   2,   2,   5,   5,   2,   2,   2,    // 3
+      2,   2,   2,   2,   2,   2,   2,   2,    // 2
+      0,   0,   0,   0,   0,   0,   0,   0 }); // 1
+
+constexpr TablaEspejo PST_BONUS_FALANGE_EG = ConEspejo({
+//    a    b    c    d    e    f    g    h
+      0,   0,   0,   0,   0,   0,   0,   0,    // 8
+      5,   6,   6,   6,   6,   6,   6,   5,    // 7
+      3,   4,   5,   5,   5,   5,   4,   3,    // 6
+      2,   3,   3,   4,   4,   3,   3,   2,    // 5
+      1,   2,   2,   3,   3,   2,   2,   1,    // 4
+      1,   1,   1,   2,   2,   1,   1,   1,    // 3
+      1,   1,   1,   0,   0,   1,   1,   1,    // 2
+      0,   0,   0,   0,   0,   0,   0,   0 }); // 1
+
+// Pawns defended by a pawn.               rank  8   7   6   5   4   3   2   1
+constexpr TablaEspejo PST_BONUS_DEFENDED_OP = PorFilas({ 0, 12,  8,  5,  3,  1,  0,  0 });
+constexpr TablaEspejo PST_BONUS_DEFENDED_EG = PorFilas({ 0,  5,  4,  3,  2,  1,  0,  0 });
+
+// By the pawn's rank as its side counts it, 0 = own back rank.
+constexpr int BONUS_PASSED[16] = { 0, 12, 12, 30,  50,  80, 130, 0,     // opening
+                                   0, 24, 24, 60, 100, 160, 260, 0 };   // endgame
+constexpr int BONUS_PEON_IMPARABLE[8] = { 0, 150, 200, 250, 300, 350, 400, 0 };
+
+// Backward pawn, opening, by file a to h; added, unlike the penalties below.
+constexpr int PENALIZACION_PEON_RETRASADO_MALUS[8] = { -5, -7, -9, -11, -11, -9, -7, -5 };
+// clang-format on
+static_assert(PST_P_OP[64 + 48] == PST_P_OP[8]);  // a2 is to Black what a7 is to White
+
+constexpr int PENALIZACION_PEON_DOUBLED_OP   = 12;  // for each pawn of a file but one
+constexpr int PENALIZACION_PEON_DOUBLED_EG   = 24;
+constexpr int PENALIZACION_PEON_ISOLATED_OP  = 10;  // twice with an open file in front
+constexpr int PENALIZACION_PEON_ISOLATED_EG  = 20;
+constexpr int PENALIZACION_PEON_RETRASADO_OP = 8;  // only with an open file in front
+constexpr int PENALIZACION_PEON_RETRASADO_EG = 8;
+constexpr int BONUS_PEON_CENTRAL_AVANZADO    = 5;  // opening
+
+constexpr float UN_TERCIO      = 0.33333334F;   // a candidate's part of the passed pawn's bonus
+constexpr float UN_TREINTAVO   = 0.033333335F;  // what each unit of the king's nearness takes off the bonus
+constexpr int   LIBRE          = 100;           // percent of the bonus of a passed pawn that can step ahead
+constexpr int   BLOQUEADO      = 80;            // ... with an enemy piece in front of it
+constexpr int   PASADO_EG      = 8;             // start of the endgame half of BONUS_PASSED
+constexpr int   FILA_PROMOCION = 7;             // as the side counts it
+
+constexpr Conjunto ALA_DAMA = COLUMNA_A * 0x0F;  // files a to d
+constexpr Conjunto ALA_REY  = ALA_DAMA << 4;     // files e to h
+
+template <int C>
+constexpr Conjunto CENTRO_AVANZADO = Bit(En<C>("d5")) | Bit(En<C>("e5")) | Bit(En<C>("d6")) | Bit(En<C>("e6"));
+
+template <int C>
+constexpr Conjunto Retroceder(Conjunto conjunto) {
+    return Avanzar<RIVAL<C>>(conjunto);
+}
+// One step sideways; what leaves the board is dropped.
+constexpr Conjunto HaciaA(Conjunto conjunto) {
+    return (conjunto & ~COLUMNA_A) >> 1;
+}
+constexpr Conjunto HaciaH(Conjunto conjunto) {
+    return (conjunto & ~COLUMNA_H) << 1;
+}
+constexpr Conjunto Lados(Conjunto conjunto) {
+    return HaciaA(conjunto) | HaciaH(conjunto);
+}
+
+// The squares that have a square of the set ahead of them on their file.
+template <int C>
+constexpr Conjunto Detras(Conjunto conjunto) {
+    return Retroceder<C>(HastaElFinal<RIVAL<C>>(conjunto));
+}
+// All squares of the files on which the set has one.
+constexpr Conjunto RellenarColumnas(Conjunto conjunto) {
+    return HastaElFinal<BLANCO>(conjunto) | HastaElFinal<NEGRO>(conjunto);
+}
+
+// The own pawns that have each property.
+struct Estructura {
+    Conjunto Peones;
+    Conjunto Doblados;  // an own pawn stands ahead on the file: all of a file but the most advanced
+    Conjunto Abiertos;  // no enemy pawn ahead on the file
+    Conjunto Pasados;
+    Conjunto Falange;
+    Conjunto Defendidos;
+    Conjunto Aislados;
+    Conjunto Retrasados;
+    Conjunto Candidatos;
+};
+
+// Candidate: a pawn with a neighbour beside it and an enemy pawn two squares ahead, the usual lever, when no other
+// enemy pawn can join in: none ahead on the adjacent files and, the wing's majority being what counts, none
+// ahead on the file two away towards the near edge (the c and d files look at a and b, the e and f files at g and h).
+// Two squares ahead are on the board only below the seventh rank.
+template <int C>
+Conjunto BuscarCandidatos(const Estructura& e, Conjunto rivales, Conjunto detras_rival) {
+    const Conjunto palanca = e.Falange & ~e.Abiertos & Retroceder<C>(Retroceder<C>(rivales));
+    const Conjunto a_dos   = (HaciaH(HaciaH(detras_rival)) & ALA_DAMA) | (HaciaA(HaciaA(detras_rival)) & ALA_REY);
+    return palanca & ~Lados(detras_rival) & ~a_dos;
+}
+
+template <int C>
+Estructura Analizar(Conjunto peones, Conjunto rivales) {
+    const Conjunto detras_rival = Detras<C>(rivales);
+    const Conjunto defendidas   = Avanzar<C>(Lados(peones));
+    const Conjunto apoyables    = ~(COLUMNA_A | COLUMNA_H | FilaEntera<C>(0));  // both squares behind exist
+
+    Estructura e{};
+    e.Peones   = peones;
+    e.Doblados = peones & Detras<C>(peones);
+    // Behind another own pawn a pawn is open only on a file without enemy pawns, wherever these stand.
+    e.Abiertos   = peones & ~(detras_rival | (e.Doblados & RellenarColumnas(rivales)));
+    e.Pasados    = e.Abiertos & ~Lados(detras_rival);
+    e.Falange    = peones & Lados(peones);
+    e.Defendidos = peones & defendidas;
+    e.Aislados   = peones & ~Lados(RellenarColumnas(peones));
+    e.Retrasados = peones & ~defendidas & apoyables & Retroceder<C>(Lados(peones));
+    e.Candidatos = BuscarCandidatos<C>(e, rivales, detras_rival);
+    return e;
+}
+
+template <int C>
+bool SinPiezas() {
+    const RegistroBando& bando = BandoDe<C>();
+    return (bando.Caballos | bando.Alfiles | bando.Torres | bando.Damas) == 0;
+}
+
+// Rule of the square: the enemy king cannot catch the pawn. The double step is not taken into account.
+template <int C>
+bool EsImparable(int casilla, int rey_rival) {
+    const int pasos    = FILA_PROMOCION - FilaRelativa<C>(casilla);
+    const int promover = casilla + pasos * ADELANTE<C>;
+    const int cedido   = TableroGlobal.Turno == RIVAL<C> ? 1 : 0;
+    return pasos + cedido < DistanciaRey(rey_rival, promover);
+}
+
+template <int C>
+void EvaluarPasado(int casilla, bool rival_sin_piezas, RegistroBando& propio) {
+    const int  rey_rival = PosicionReyDe<RIVAL<C>>();
+    const int  fila      = FilaRelativa<C>(casilla);
+    const int  delante   = casilla + ADELANTE<C>;
+    const bool bloqueado = EnTablero(delante) && EsRival<C>(TableroGlobal.Casillas[delante]);
+    const int  factor    = bloqueado ? BLOQUEADO : LIBRE;
+    const int  final     = BONUS_PASSED[PASADO_EG + fila];
+    const int  frenado   = Truncar(TROPISMO_DISTANCIA[casilla][rey_rival] * final, UN_TREINTAVO);
+    propio.Puntos_OP += Porcentaje(BONUS_PASSED[fila], factor);
+    propio.Puntos_EG += Porcentaje(final - frenado, factor);
+
+    if (rival_sin_piezas && EsImparable<C>(casilla, rey_rival)) {
+        propio.Puntos_OP += BONUS_PEON_IMPARABLE[fila];
+        propio.Puntos_EG += BONUS_PEON_IMPARABLE[fila];
+    }
+}
+
+template <int C>
+void SumarTabla(Conjunto conjunto, const TablaEspejo& tabla_op, const TablaEspejo& tabla_eg, RegistroBando& propio) {
+    int op = 0;
+    int eg = 0;
+    while (conjunto != 0) {
+        const int casilla = SacarCasilla(conjunto) + MITAD<C>;
+        op += tabla_op[casilla];
+        eg += tabla_eg[casilla];
+    }
+    propio.Puntos_OP += op;
+    propio.Puntos_EG += eg;
+}
+
+// Doubled, isolated and backward pawns.
+void EvaluarDebilidades(const Estructura& e, RegistroBando& propio) {
+    const int doblados   = Cuantas(e.Doblados);
+    const int aislados   = Cuantas(e.Aislados);
+    const int retrasados = Cuantas(e.Retrasados);
+    propio.Puntos_OP -= PENALIZACION_PEON_DOUBLED_OP * doblados +
+                        PENALIZACION_PEON_ISOLATED_OP * (aislados + Cuantas(e.Aislados & e.Abiertos)) +
+                        PENALIZACION_PEON_RETRASADO_OP * Cuantas(e.Retrasados & e.Abiertos);
+    propio.Puntos_EG -= PENALIZACION_PEON_DOUBLED_EG * doblados + PENALIZACION_PEON_ISOLATED_EG * aislados +
+                        PENALIZACION_PEON_RETRASADO_EG * retrasados;
+    for (Conjunto resto = e.Retrasados; resto != 0;)
+        propio.Puntos_OP += PENALIZACION_PEON_RETRASADO_MALUS[Columna(SacarCasilla(resto))];
+}
+
+template <int C>
+void EvaluarPeones(RegistroBando& propio) {
+    const Estructura e = Analizar<C>(Conjuntos[C].Peones, Conjuntos[RIVAL<C>].Peones);
+
+    EvaluarDebilidades(e, propio);
+    SumarTabla<C>(e.Falange, PST_BONUS_FALANGE_OP, PST_BONUS_FALANGE_EG, propio);
+    SumarTabla<C>(e.Defendidos & ~e.Falange, PST_BONUS_DEFENDED_OP, PST_BONUS_DEFENDED_EG, propio);
+    for (Conjunto resto = e.Candidatos; resto != 0;) {
+        const int fila = FilaRelativa<C>(SacarCasilla(resto));
+        propio.Puntos_OP += Truncar(BONUS_PASSED[fila], UN_TERCIO);
+        propio.Puntos_EG += Truncar(BONUS_PASSED[PASADO_EG + fila], UN_TERCIO);
+    }
+    const bool rival_sin_piezas = SinPiezas<RIVAL<C>>();
+    for (Conjunto resto = e.Pasados; resto != 0;) EvaluarPasado<C>(SacarCasilla(resto), rival_sin_piezas, propio);
+
+    SumarTabla<C>(e.Peones, PST_P_OP, PST_P_EG, propio);
+    propio.Puntos_OP += BONUS_PEON_CENTRAL_AVANZADO * Cuantas(e.Peones & CENTRO_AVANZADO<C>);
+}
+
+}  // namespace
+
+void EvaluarPeonesB() {
+    EvaluarPeones<BLANCO>(Blancas);
+}
+void EvaluarPeonesN() {
+    EvaluarPeones<NEGRO>(Negras);
+}
