@@ -1,0 +1,82 @@
+#include "search/Orden.h"
+
+#include <utility>
+
+#include "search/Historico.h"
+
+// An en-passant capture is a pawn taking a pawn.
+constexpr int ORDEN_AL_PASO = valor_captura[PEON_B][PEON_N];
+
+// How a band of quiet moves maps history to scores. Deliberate oddities: among killers a lower history ranks
+// higher, and a move never tried ranks behind the moves that failed.
+struct BandaTranquila {
+    int Positivo;  // base for a history above 0
+    int Negativo;  // base for a history below 0
+    int Cero;      // score for no history
+    int Signo;     // +1 when the percentage is added to the base, -1 when it is taken off
+};
+constexpr BandaTranquila BANDA_KILLER_MATE = {2000000, 2000001, 2000102, -1};
+constexpr BandaTranquila BANDA_KILLER      = {1000000, 1000001, 1000102, -1};
+constexpr BandaTranquila BANDA_REFUTACION  = {500000, 499999, 499898, +1};
+constexpr BandaTranquila BANDA_RESTO       = {0, -1, -102, +1};
+
+// Reciprocals of the extreme history values, computed once a list; 0 while there is no such value.
+struct EscalaHistorico {
+    float Maximo;
+    float Minimo;
+};
+
+static EscalaHistorico ObtenerEscala() {
+    return {Max_Historico > 0 ? 1.0F / static_cast<float>(Max_Historico) : 0.0F,
+            Min_Historico < 0 ? 1.0F / static_cast<float>(Min_Historico) : 0.0F};
+}
+
+static const BandaTranquila& BandaDe(int ply, std::uint32_t movimiento, std::uint32_t refutacion) {
+    if (EsKillerMate(ply, movimiento)) return BANDA_KILLER_MATE;
+    if (EsKiller(ply, movimiento)) return BANDA_KILLER;
+    return movimiento == refutacion ? BANDA_REFUTACION : BANDA_RESTO;
+}
+
+// History as a percentage of the extreme value on its side: 0..100 or -100..0. Single precision, in this order of
+// operations, so that every build orders alike.
+static int PuntosTranquilo(std::uint32_t movimiento, const BandaTranquila& banda, const EscalaHistorico& escala) {
+    const int historico = Historico_Bueno[PiezaMovida(movimiento)][Hasta(movimiento)];
+    if (historico == 0) return banda.Cero;
+    const float valor = static_cast<float>(historico);
+    if (historico > 0) return banda.Positivo + banda.Signo * static_cast<int>(valor * 100.0F * escala.Maximo);
+    return banda.Negativo + banda.Signo * static_cast<int>(valor * -100.0F * escala.Minimo);
+}
+
+static int PuntosCaptura(std::uint32_t movimiento) {
+    const auto captura = static_cast<std::size_t>(PiezaCapturada(movimiento));
+    if (EsCoronacion(movimiento))
+        return valor_captura_coronacion[static_cast<std::size_t>(PiezaCoronada(movimiento))][captura];
+    return valor_captura[static_cast<std::size_t>(PiezaMovida(movimiento))][captura];
+}
+
+void OrdenarMovimientosTodos(int numero, std::uint32_t tabla, ListaMovimientos& lista, std::uint32_t refutacion) {
+    const int             ply    = TableroGlobal.Ply;
+    const EscalaHistorico escala = ObtenerEscala();
+    for (int i = 0; i < numero; ++i) {
+        const std::uint32_t movimiento = lista.Entradas[i].Movimiento;
+        std::int32_t&       puntos     = lista.Entradas[i].Puntos;
+        if (movimiento == tabla)
+            puntos = ORDEN_TABLA;
+        else if (EsAlPaso(movimiento))
+            puntos = ORDEN_AL_PASO;
+        else if (EsCaptura(movimiento))
+            puntos = PuntosCaptura(movimiento);
+        else if (EsCoronacion(movimiento))
+            puntos = valor_coronacion[static_cast<std::size_t>(PiezaCoronada(movimiento))];
+        else
+            puntos = PuntosTranquilo(movimiento, BandaDe(ply, movimiento, refutacion), escala);
+    }
+}
+
+std::uint32_t SiguienteMovimiento(ListaMovimientos& lista, int indice, int numero) {
+    int mejor = indice;
+    for (int i = indice + 1; i < numero; ++i)
+        if (lista.Entradas[i].Puntos > lista.Entradas[mejor].Puntos) mejor = i;
+    std::swap(lista.Entradas[indice], lista.Entradas[mejor]);
+    return lista.Entradas[indice].Movimiento;
+}

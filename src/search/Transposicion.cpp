@@ -1,0 +1,201 @@
+#include "search/Transposicion.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdio>
+#include <limits>
+
+#include "board/EstadoMotor.h"
+#include "plataforma/Memoria.h"
+#include "search/Puntuacion.h"
+
+RegistroTT_Opciones TT_Opciones;
+CuboTransposicion*  TT_Datos = nullptr;
+EntradaCache*       TT_Cache = nullptr;
+
+constexpr int           MEGAS_MIN       = 1;
+constexpr int           MEGAS_MAX       = 2048;
+constexpr int           MEGAS_CON_CACHE = 32;  // from this size on the cache gets its share
+constexpr int           PARTE_CACHE     = 8;   // one part in so many, to the nearest megabyte
+constexpr std::uint64_t MEGA            = 1U << 20;
+constexpr int           EDAD_MIN        = 1;    // 0 is the age of an empty way
+constexpr int           PROFUNDIDAD_TT  = 126;  // deepest depth that is kept
+constexpr int           BITS_CAMPO      = 7;
+constexpr int           MASCARA_CAMPO   = (1 << BITS_CAMPO) - 1;
+
+constexpr EntradaTransposicion VIA_VACIA   = {0, 0, -VALOR_INFINITO, 0};
+constexpr CuboTransposicion    CUBO_VACIO  = {{VIA_VACIA, VIA_VACIA, VIA_VACIA, VIA_VACIA}};
+constexpr EntradaCache         CACHE_VACIA = {0, -VALOR_INFINITO};
+
+// Sizes of the blocks in use. The option fields cannot tell them: "setoption" changes those at any time.
+static std::size_t BytesDatos = 0;
+static std::size_t BytesCache = 0;
+
+static int ProfundidadDe(const EntradaTransposicion& via) {
+    return via.Info & MASCARA_CAMPO;
+}
+static int EdadDe(const EntradaTransposicion& via) {
+    return (via.Info >> BITS_CAMPO) & MASCARA_CAMPO;
+}
+static int CotaDe(const EntradaTransposicion& via) {
+    return via.Info >> (2 * BITS_CAMPO);
+}
+
+static std::uint16_t CrearInfo(int profundidad, int cota) {
+    const int edad = std::clamp(TT_Opciones.Edad, EDAD_MIN, EDAD_MAX);
+    const int tipo = cota > COTA_INFERIOR ? 0 : cota;
+    return static_cast<std::uint16_t>(std::clamp(profundidad, 0, PROFUNDIDAD_TT) | (edad << BITS_CAMPO) |
+                                      (tipo << (2 * BITS_CAMPO)));
+}
+
+// A mate is stored by its distance from the node and read back by its distance from the root, since the same
+// position is reached at different plies.
+static int PuntosDesdeNodo(int puntos) {
+    if (puntos > UMBRAL_MATE) return puntos + TableroGlobal.Ply;
+    if (puntos < -UMBRAL_MATE) return puntos - TableroGlobal.Ply;
+    return puntos;
+}
+static int PuntosDesdeRaiz(int puntos) {
+    if (puntos > UMBRAL_MATE) return puntos - TableroGlobal.Ply;
+    if (puntos < -UMBRAL_MATE) return puntos + TableroGlobal.Ply;
+    return puntos;
+}
+
+static CuboTransposicion& CuboActual() {
+    return TT_Datos[TableroGlobal.Key % TT_Opciones.NumeroCubos];
+}
+
+// The way that holds the current position, nullptr = none. Stores keep a key in one way at most.
+static const EntradaTransposicion* BuscarVia() {
+    if (TT_Datos == nullptr) return nullptr;
+    for (const EntradaTransposicion& via : CuboActual().Vias)
+        if (via.Key == TableroGlobal.Key) return &via;
+    return nullptr;
+}
+
+static void RepartirMemoria(int megas) {
+    const int total         = std::clamp(megas, MEGAS_MIN, MEGAS_MAX);
+    TT_Opciones.MegasCache  = total < MEGAS_CON_CACHE ? 0 : (total + PARTE_CACHE / 2) / PARTE_CACHE;
+    TT_Opciones.Megas       = total - TT_Opciones.MegasCache;
+    TT_Opciones.NumeroCubos = static_cast<std::uint64_t>(TT_Opciones.Megas) * (MEGA / sizeof(CuboTransposicion));
+    TT_Opciones.NumeroCache = static_cast<std::uint64_t>(TT_Opciones.MegasCache) * (MEGA / sizeof(EntradaCache));
+}
+
+void LiberarTransposicion() {
+    LiberarMemoria(TT_Datos, BytesDatos);
+    LiberarMemoria(TT_Cache, BytesCache);
+    TT_Datos = nullptr;
+    TT_Cache = nullptr;
+}
+
+void CrearTransposicion(int megas) {
+    LiberarTransposicion();
+    RepartirMemoria(megas);
+    BytesDatos = (TT_Opciones.NumeroCubos + 1) * sizeof(CuboTransposicion);
+    BytesCache = TT_Opciones.MegasCache == 0 ? 0 : (TT_Opciones.NumeroCache + 1) * sizeof(EntradaCache);
+
+    TT_Datos = static_cast<CuboTransposicion*>(ReservarMemoria(BytesDatos));
+    if (BytesCache != 0) TT_Cache = static_cast<EntradaCache*>(ReservarMemoria(BytesCache));
+    if (TT_Datos == nullptr || (BytesCache != 0 && TT_Cache == nullptr)) {
+        std::printf("info string Memoria insuficiente para la tabla hash.\n");
+        LiberarTransposicion();
+        Salir = 1;
+    }
+    LimpiarTransposicion();
+}
+
+void LimpiarTransposicion() {
+    if (TT_Datos != nullptr) std::fill_n(TT_Datos, TT_Opciones.NumeroCubos + 1, CUBO_VACIO);
+    LimpiarCache();
+    TT_Opciones.Edad           = EDAD_MIN;
+    TT_Opciones.Usadas         = 0;
+    TT_Opciones.Sobrescrituras = 0;
+}
+
+void LimpiarCache() {
+    if (TT_Cache != nullptr) std::fill_n(TT_Cache, TT_Opciones.NumeroCache + 1, CACHE_VACIA);
+}
+
+static void ContarUsada() {
+    if (TT_Opciones.Usadas < VIAS_CUBO * TT_Opciones.NumeroCubos) ++TT_Opciones.Usadas;
+}
+
+// The way that a new position takes in a full bucket. Older entries go first; of two of the same age, deliberately,
+// the deeper one. Each step to an older candidate counts as used by this search.
+static EntradaTransposicion& ElegirVictima(CuboTransposicion& cubo) {
+    EntradaTransposicion* victima = &cubo.Vias[0];
+    for (EntradaTransposicion& via : cubo.Vias) {
+        if (EdadDe(via) < EdadDe(*victima)) {
+            ContarUsada();
+            victima = &via;
+        } else if (EdadDe(via) == EdadDe(*victima) && ProfundidadDe(via) > ProfundidadDe(*victima)) {
+            victima = &via;
+        }
+    }
+    return *victima;
+}
+
+// The way to write: that of the same key, an empty one, or the victim.
+static EntradaTransposicion& ElegirVia(CuboTransposicion& cubo) {
+    for (EntradaTransposicion& via : cubo.Vias) {
+        if (via.Key == TableroGlobal.Key) {
+            if (TT_Opciones.Sobrescrituras < std::numeric_limits<int>::max()) ++TT_Opciones.Sobrescrituras;
+            return via;
+        }
+        if (via.Key == 0) {
+            ContarUsada();
+            return via;
+        }
+    }
+    return ElegirVictima(cubo);
+}
+
+void AlmacenarPosicion(int profundidad, int puntos, int cota, std::uint32_t movimiento) {
+    if (TT_Datos == nullptr) return;
+    EntradaTransposicion& via = ElegirVia(CuboActual());
+    if (movimiento != 0 || via.Key != TableroGlobal.Key) via.Movimiento = movimiento;
+    via.Key    = TableroGlobal.Key;
+    via.Puntos = static_cast<std::int16_t>(PuntosDesdeNodo(puntos));
+    via.Info   = CrearInfo(profundidad, cota);
+}
+
+int RecuperarPosicion(int alfa, int beta, int profundidad, int* puntos, std::uint32_t* movimiento) {
+    if (TT_Datos == nullptr) return 0;
+    *puntos                         = -VALOR_INFINITO;
+    *movimiento                     = 0;
+    const EntradaTransposicion* via = BuscarVia();
+    if (via == nullptr) return 0;
+
+    *puntos     = via->Puntos;
+    *movimiento = via->Movimiento;
+    if (ProfundidadDe(*via) < profundidad) return 0;
+
+    *puntos = PuntosDesdeRaiz(via->Puntos);
+    switch (CotaDe(*via)) {
+        case COTA_EXACTA:
+            return 1;
+        case COTA_SUPERIOR:
+            return alfa >= std::min(beta, *puntos);
+        case COTA_INFERIOR:
+            return std::max(alfa, *puntos) >= beta;
+        default:
+            return 0;
+    }
+}
+
+std::uint32_t MovimientoDeTabla() {
+    const EntradaTransposicion* via = BuscarVia();
+    return via == nullptr ? 0 : via->Movimiento;
+}
+
+int DesaconsejaNulo(int alfa, int beta, int profundidad) {
+    const EntradaTransposicion* via = BuscarVia();
+    return via != nullptr && CotaDe(*via) == COTA_SUPERIOR && ProfundidadDe(*via) >= profundidad &&
+           via->Puntos < beta && via->Puntos <= alfa;
+}
+
+int Hashfull() {
+    if (TT_Opciones.NumeroCubos == 0) return 0;
+    const auto usadas = static_cast<float>(TT_Opciones.Usadas);
+    return static_cast<int>(usadas / static_cast<float>(VIAS_CUBO * TT_Opciones.NumeroCubos) * 1000.0F);
+}

@@ -1,0 +1,77 @@
+// The transposition table and, beside it, the evaluation cache: two hash tables keyed by the Zobrist key.
+#pragma once
+
+#include <cstdint>
+
+#include "board/Tablero.h"
+
+constexpr int VIAS_CUBO = 4;
+constexpr int EDAD_MAX  = 126;  // largest age that an entry holds; beyond it the table is cleared
+
+enum TipoCota : int { COTA_EXACTA = 1, COTA_SUPERIOR = 2, COTA_INFERIOR = 3 };
+
+struct EntradaTransposicion {
+    std::uint64_t Key;         // 0 = empty
+    std::uint32_t Movimiento;  // best move, 0 = none
+    std::int16_t  Puntos;      // mate scores relative to the node; -VALOR_INFINITO when empty
+    std::uint16_t Info;        // bits 0-6 depth, 7-13 age, 14-15 TipoCota
+};
+static_assert(sizeof(EntradaTransposicion) == 16);
+
+struct alignas(64) CuboTransposicion {
+    EntradaTransposicion Vias[VIAS_CUBO];
+};
+static_assert(sizeof(CuboTransposicion) == 64);
+
+struct EntradaCache {
+    std::uint64_t Key;     // 0 = empty
+    std::int16_t  Puntos;  // evaluation from White's point of view; -VALOR_INFINITO when empty
+};
+static_assert(sizeof(EntradaCache) == 16);
+
+struct RegistroTT_Opciones {
+    int           Megas;           // table, megabytes
+    int           MegasCache;      // evaluation cache, megabytes; 0 = no cache
+    std::uint64_t NumeroCubos;     // buckets of the table
+    std::uint64_t NumeroCache;     // entries of the cache, never 0 while there is one
+    std::uint64_t Usadas;          // entries used by this search, the basis of "hashfull"
+    int           Edad;            // 1 after clearing, + 1 after each search
+    int           Sobrescrituras;  // stores over the same key, saturating
+};
+extern RegistroTT_Opciones TT_Opciones;
+extern CuboTransposicion*  TT_Datos;  // nullptr = no table
+extern EntradaCache*       TT_Cache;  // nullptr = no cache
+
+// (Re)creates both tables, empty. megas: the Hash option; below 1 makes 1, beyond 2048 makes 2048. When memory
+// runs out it prints a line and raises Salir.
+void CrearTransposicion(int megas);
+void LiberarTransposicion();
+void LimpiarTransposicion();  // empties the table and the cache, age 1
+void LimpiarCache();          // empties the evaluation cache alone
+
+// Stores the current position. profundidad in plies; mate scores are made relative to the node. A move of 0
+// keeps the move that the table already holds for the same key.
+void AlmacenarPosicion(int profundidad, int puntos, int cota, std::uint32_t movimiento);
+
+// Looks the current position up. Returns 1 when the stored bound decides the node for the window at this depth.
+// Always delivers the last matching way's score and move (-VALOR_INFINITO and 0 when none matches), but returns 0
+// without touching them when there is no table.
+int RecuperarPosicion(int alfa, int beta, int profundidad, int* puntos, std::uint32_t* movimiento);
+
+// The move stored for the current position in any way of its bucket, 0 = none.
+std::uint32_t MovimientoDeTabla();
+
+// 1 when the table holds an upper bound of at most alfa, and below beta, for the current position at this depth or
+// deeper: a null move searched to it would hardly reach beta.
+int DesaconsejaNulo(int alfa, int beta, int profundidad);
+
+// Used entries in thousandths of the table, 0..1000.
+int Hashfull();
+
+// Ask the processor to fetch what a probe or an evaluation of this key will read.
+inline void PrecargarTransposicion(std::uint64_t key) {
+    if (TT_Datos != nullptr) __builtin_prefetch(&TT_Datos[key % TT_Opciones.NumeroCubos]);
+}
+inline void PrecargarCache(std::uint64_t key) {
+    if (TT_Cache != nullptr) __builtin_prefetch(&TT_Cache[key % TT_Opciones.NumeroCache]);
+}
