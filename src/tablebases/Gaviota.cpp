@@ -1,0 +1,113 @@
+#include "tablebases/Gaviota.h"
+
+#include <cstdio>
+#include <cstring>
+
+#include "plataforma/Biblioteca.h"
+#include "plataforma/NombreGaviota.h"
+#include "tablebases/GaviotaEntradas.h"
+#include "tablebases/GaviotaTablas.h"
+
+constexpr char NOMBRE_BIBLIOTECA[] = "gtbprobe_x64.dll";  // the name of every message, whichever file was found
+
+constexpr char RUTA_INICIAL[]     = "empty";
+constexpr int  COMPRESION_INICIAL = 4;
+constexpr int  CACHE_INICIAL      = 32;  // megabytes
+constexpr int  VERBOSIDAD         = 1;
+constexpr int  FRACCION_WDL       = 16;
+
+RegistroGaviota tbprobe_Gaviota;
+
+static void* gtb_hmod;  // the loaded library; stays set when it lacks a function
+
+void IniciarOpcionesGaviota() {
+    RegistroGaviota& g = tbprobe_Gaviota;
+    g.Usar             = 0;
+    std::memcpy(g.Ruta, RUTA_INICIAL, sizeof RUTA_INICIAL);
+    g.Compresion  = COMPRESION_INICIAL;
+    g.Verbosidad  = VERBOSIDAD;
+    g.Cache       = CACHE_INICIAL;
+    g.FraccionWdl = FRACCION_WDL;
+}
+
+void ActualizarGaviota() {
+    RegistroGaviota& g = tbprobe_Gaviota;
+    if (g.Usar == 0 && g.Cargada == 1) {
+        Descargar_gtbgaviota_dll();
+        g.Cargada = 0;  // even when the system keeps the library: it has been shut down
+    }
+    if (g.Usar == 1 && g.Cargada == 0) Cargar_gtbgaviota_dll();
+}
+
+// A library that is still loaded, incomplete or not freed, is taken as it is: loading it again would only pile up
+// references.
+static void CargarFichero() {
+    if (gtb_hmod == nullptr) gtb_hmod = CargarBiblioteca(NOMBRE_BIBLIOTECA);
+    if (gtb_hmod == nullptr && NOMBRE_INSTALADO_GAVIOTA != nullptr)
+        gtb_hmod = CargarBiblioteca(NOMBRE_INSTALADO_GAVIOTA);
+}
+
+// Both calls of each pair are made: "restart" puts right a library that has been used before, "init" starts it.
+static void IniciarBiblioteca() {
+    RegistroGaviota&  g             = tbprobe_Gaviota;
+    const std::size_t cache_octetos = static_cast<std::size_t>(g.Cache) << 20;
+    g.ListaRutas                    = gtb::tbpaths_done(g.ListaRutas);
+    g.ListaRutas                    = gtb::tbpaths_init();
+    g.ListaRutas                    = gtb::tbpaths_add(g.ListaRutas, g.Ruta);
+    gtb::tb_restart(g.Verbosidad, g.Compresion, g.ListaRutas);
+    gtb::tbcache_restart(cache_octetos, g.FraccionWdl);
+    const char* const mensaje = gtb::tb_init(g.Verbosidad, g.Compresion, g.ListaRutas);
+    if (mensaje != nullptr) std::printf("%s\n", mensaje);
+    gtb::tbcache_init(cache_octetos, g.FraccionWdl);
+    gtb::tbstats_reset();
+}
+
+static void ImprimirEstado() {
+    std::printf("Initialized: %s\n\n", gtb::tb_is_initialized() != 0 ? "Ok" : "FAILED");
+    std::printf("State cache: %s\n\n", gtb::tbcache_is_on() != 0 ? "Ok" : "FAILED");
+}
+
+static void ImprimirDisponibilidad(int hombres, int hay, int todas) {
+    if ((tbprobe_Gaviota.Disponibilidad & hay) == 0) {
+        std::printf("No %d-pc TBs available\n", hombres);
+        return;
+    }
+    std::printf("%d-pc TBs available\n", hombres);
+    if ((tbprobe_Gaviota.Disponibilidad & todas) != 0) std::printf("%d-pc TBs complete\n", hombres);
+}
+
+void Cargar_gtbgaviota_dll() {
+    RegistroGaviota& g = tbprobe_Gaviota;
+    CargarFichero();
+    g.Cargada = gtb_hmod != nullptr && BuscarEntradas(gtb_hmod) == 1 ? 1 : 0;
+    if (g.Cargada == 0) {
+        std::printf("info string Error loading dll library %s.\n", NOMBRE_BIBLIOTECA);
+        return;
+    }
+    IniciarBiblioteca();
+    ImprimirEstado();
+    g.Disponibilidad = static_cast<int>(gtb::tb_availability());
+    ImprimirDisponibilidad(3, HAY_3_PIEZAS, TODAS_3_PIEZAS);
+    ImprimirDisponibilidad(4, HAY_4_PIEZAS, TODAS_4_PIEZAS);
+    ImprimirDisponibilidad(5, HAY_5_PIEZAS, TODAS_5_PIEZAS);
+    g.HombresSanos = ComprobarTablasGaviota(g.Ruta, g.Compresion);
+}
+
+int Descargar_gtbgaviota_dll() {
+    RegistroGaviota& g = tbprobe_Gaviota;
+    if (gtb_hmod == nullptr) return 1;
+    if (g.Cargada == 1) {  // the library does not bear being shut down twice, nor before it was started
+        gtb::tbcache_flush();
+        gtb::tbcache_done();
+        gtb::tb_done();
+        g.ListaRutas = gtb::tbpaths_done(g.ListaRutas);
+    }
+    if (LiberarBiblioteca(gtb_hmod) == 0) {
+        std::printf("info string Error: Liberar tabla de finales gaviota.\n");
+        return 0;
+    }
+    gtb_hmod = nullptr;
+    LimpiarEntradas();
+    g.Cargada = 0;
+    return 1;
+}
