@@ -1,0 +1,33 @@
+#include "uci/ComprobarTiempo.h"
+
+#include <cstring>
+
+#include "board/EstadoMotor.h"
+#include "plataforma/Entrada.h"
+#include "plataforma/Reloj.h"
+#include "search/LineaPrincipal.h"
+
+constexpr std::uint64_t NODOS_POR_SONDEO = 2048;  // a power of two
+constexpr int           LINEA_SONDEO     = 80;    // longest line a poll reads, terminating '\0' included
+
+static_assert((NODOS_POR_SONDEO & (NODOS_POR_SONDEO - 1)) == 0);
+
+// The first iteration always ends, and no search is cut before it has a move to play.
+static bool SeAcaboElTiempo() {
+    return TipoJuego.ProfundidadActual >= 2 && TipoJuego.LimiteTiempo == 1 &&
+           ObtenerMilisegundos() - TipoJuego.TiempoInicio >= TipoJuego.TiempoAsignado && pv_line_fin[0] != 0;
+}
+
+// Consumes one waiting line. Only "stop" means anything during a search.
+static void Entrada_StdIn() {
+    char linea[LINEA_SONDEO];
+    if (HayLinea(LINEA_SONDEO) == 0 || LeerLinea(linea, LINEA_SONDEO) == 0) return;
+    if (std::strcmp(linea, "stop") == 0) TipoJuego.Parar = 1;
+}
+
+// Called at every node, so the common path is this one test; clock and input wait for one node in 2048.
+void ComprobarTiempo() {
+    if ((TipoJuego.Nodos & (NODOS_POR_SONDEO - 1)) != 0) return;
+    if (Salir != 0 || SeAcaboElTiempo()) TipoJuego.Parar = 1;
+    Entrada_StdIn();
+}

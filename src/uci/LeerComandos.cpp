@@ -1,0 +1,88 @@
+#include "uci/LeerComandos.h"
+
+#include <cstdio>
+#include <cstring>
+
+#include "board/EstadoMotor.h"
+#include "board/Palabras.h"
+#include "board/Perft.h"
+#include "board/Posicion.h"
+#include "book/Libro.h"
+#include "book/LibroSql.h"
+#include "plataforma/Entrada.h"
+#include "search/Transposicion.h"
+#include "tablebases/Gaviota.h"
+#include "uci/Go.h"
+#include "uci/Opciones.h"
+#include "uci/UciNewGame.h"
+
+// --- Commands; each takes the text behind its word ---
+
+static void ComandoUciNewGame(const char* /*resto*/) {
+    UciNewGame();
+}
+
+// OwnBook is only offered as on while the book can be opened.
+static void ComandoUci(const char* /*resto*/) {
+    std::printf("id name Tamrek 0.6 x64\n");
+    std::printf("id author Ferlo Quent, Spain.\n");
+    if (LibroSql.OwnBook != 0) LibroSql.OwnBook = ComprobarAccesoLibro();
+    LimpiarLineaLibro();
+    ImprimirOpciones();
+    std::printf("uciok\n");
+}
+
+static void ComandoIsReady(const char* /*resto*/) {
+    ActualizarGaviota();
+    CrearTransposicion(HashTotal());
+    std::printf("readyok\n");
+}
+
+static void ComandoPosition(const char* resto) {
+    Position_Fen_Startpos(resto);
+}
+
+static void ComandoBook(const char* /*resto*/) {
+    VerificarLibroApertura();
+}
+
+static void ComandoQuit(const char* /*resto*/) {
+    Salir = 1;
+}
+
+struct EntradaComando {
+    const char* Palabra;
+    void (*Ejecutar)(const char* resto);
+};
+
+static const EntradaComando COMANDOS[] = {
+    {"ucinewgame", ComandoUciNewGame},
+    {"uci", ComandoUci},
+    {"isready", ComandoIsReady},
+    {"setoption", ParseSetoption},
+    {"position", ComandoPosition},
+    {"go", Go},
+    {"book", ComandoBook},
+    {"perft", Perft},
+    {"quit", ComandoQuit},
+};
+
+static void EjecutarLinea(const char* linea) {
+    char              palabra[PALABRA_MAX];
+    const char* const resto = Split_String(linea, palabra);
+    for (const EntradaComando& comando : COMANDOS)
+        if (std::strcmp(palabra, comando.Palabra) == 0) {
+            comando.Ejecutar(resto);
+            return;
+        }
+}
+
+void LeerComandos() {
+    char linea[LINEA_MAX];
+    while (Salir == 0) {
+        if (LeerLinea(linea, LINEA_MAX) == 0)
+            Salir = 1;
+        else
+            EjecutarLinea(linea);
+    }
+}

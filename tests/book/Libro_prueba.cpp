@@ -1,0 +1,135 @@
+#include <cstdio>
+#include <fstream>
+#include <set>
+
+#include "book/CarpetaLibro.h"
+
+using Textos = std::vector<std::string>;
+
+class Libro : public CarpetaLibro {};
+
+static void PartidaNueva() {
+    LibroSql.Terminado = 0;
+    LimpiarLineaLibro();
+}
+
+// The reply of the book, "" for none.
+static std::string Responder(const Textos& posiciones) {
+    for (const std::string& posicion : posiciones) Position_Fen_Startpos(posicion.c_str());
+    return BuscarJugadaLibro() != 0 ? LibroSql.Movimiento : "";
+}
+
+struct CasoLibro {
+    const char*           nombre;
+    Textos                filas;
+    Textos                posiciones;  // "position" commands before "go"
+    std::set<std::string> respuestas;  // all that the seeds of rand() reach
+    int                   limite = LIMITE_LIBRO_VALOR;
+};
+
+static const CasoLibro CASOS[] = {
+    {"one row at the start: the offset may lie behind it", {"'d2d4 d7d5'"}, {"startpos"}, {"d2d4", ""}},
+    {"empty table", {}, {"startpos"}, {""}},
+    {"every continuation",
+     {"'e2e4 e7e5 g1f3'", "'e2e4 c7c5 g1f3'", "'d2d4 d7d5'"},
+     {"startpos moves e2e4"},
+     {"e7e5", "c7c5"}},
+    {"a row that ends here", {"'e2e4'"}, {"startpos moves e2e4"}, {""}},
+    {"a row that ends here beside others", {"'e2e4'", "'e2e4 e7e6'"}, {"startpos moves e2e4"}, {"", "e7e6"}},
+    {"line that no row continues", {"'e2e4 e7e5'"}, {"startpos moves g1f3"}, {""}},
+    {"move list with a blank at its end", {"'e2e4 e7e5'"}, {"startpos moves e2e4 "}, {"e7e5"}},
+    {"rows that are no lines", {"NULL", "x'65326534'", "''", "'e2e4'||char(0)||'e7e5'"}, {"startpos"}, {"", "e2e4"}},
+    {"a very long row", {"printf('e2e4 e7e5 %.*c', 900000, 'x')"}, {"startpos moves e2e4"}, {"e7e5"}},
+    {"capital letters match LIKE, but are no move", {"'E2E4 E7E5'"}, {"startpos moves e2e4"}, {""}},
+    {"illegal moves", {"'e2e4 e7e4'", "'e2e4 e8e7'", "'e2e4 e7e5q'"}, {"startpos moves e2e4"}, {"", "e7e5"}},
+    {"a move that leaves the king in check", {"'e2e4 e7e5 d1h5 f7f6'"}, {"startpos moves e2e4 e7e5 d1h5"}, {""}},
+    {"a promotion has five characters",
+     {"'h2h4 g7g5 h4g5 h7h6 g5h6 g8f6 h6h7 f6g8 h7g8q'"},
+     {"startpos moves h2h4 g7g5 h4g5 h7h6 g5h6 g8f6 h6h7 f6g8"},
+     {""}},
+    {"four plies with limit 2", {"'e2e4 e7e5 g1f3 b8c6 f1b5'"}, {"startpos moves e2e4 e7e5 g1f3 b8c6"}, {"f1b5"}, 2},
+    {"twenty characters with limit 2",
+     {"'e2e4 e7e5 g1f3 b8c6 d2d4'"},
+     {"startpos moves e2e4 e7e5 g1f3 b8c6 "},
+     {""},
+     2},
+    {"six plies with limit 2",
+     {"'e2e4 e7e5 g1f3 b8c6 f1b5 a7a6 b5a4'", "'d2d4 d7d5'"},
+     {"startpos moves e2e4 e7e5 g1f3 b8c6 f1b5 a7a6"},
+     {""},
+     2},
+    {"FEN", {"'e2e4 e7e5'", "'e2e4 e7e5'"}, {"fen rnbqkbnr/pppppppp/8/8/8/8/PPPPPPPP/RNBQKBNR w KQkq - 0 1"}, {""}},
+    {"line of another game", {"'e2e4 e7e5'"}, {"startpos moves e2e4", "startpos"}, {""}},
+    {"quotes and patterns never reach the query", {"'e2e4 e7e5'"}, {"startpos moves e2e4 ' OR 1 OR '"}, {""}},
+    {"wild card", {"'e2e4 e7e5 g1f3'"}, {"startpos moves e2e4 %"}, {""}},
+};
+
+TEST_F(Libro, RespondeConCadaContinuacionYNadaMas) {
+    for (const CasoLibro& caso : CASOS) {
+        SCOPED_TRACE(caso.nombre);
+        EscribirLibro(caso.filas);
+        LibroSql.OwnBookLimit = caso.limite;
+        std::set<std::string> respuestas;
+        for (unsigned semilla = 1; semilla <= 60; ++semilla) {
+            PartidaNueva();
+            std::srand(semilla);
+            respuestas.insert(Responder(caso.posiciones));
+        }
+        EXPECT_EQ(respuestas, caso.respuestas);
+    }
+}
+
+TEST_F(Libro, EligeEntreQuinceFilas) {
+    Textos                filas;
+    std::set<std::string> primeras;
+    for (const char* jugada : {"a7a6", "a7a5", "b7b6", "b7b5", "c7c6", "c7c5", "d7d6", "d7d5", "e7e6", "e7e5", "f7f6",
+                               "f7f5", "g7g6", "g7g5", "h7h6", "h7h5", "b8c6"}) {
+        filas.push_back(std::string("'e2e4 ") + jugada + "'");
+        if (filas.size() <= 15) primeras.insert(jugada);
+    }
+    EscribirLibro(filas);
+    std::set<std::string> respuestas;
+    for (int i = 0; i < 1000; ++i) {
+        PartidaNueva();
+        respuestas.insert(Responder({"startpos moves e2e4"}));
+    }
+    EXPECT_EQ(respuestas, primeras);
+}
+
+TEST_F(Libro, QuedaTerminadoHastaLaPartidaSiguiente) {
+    EscribirLibro({"'e2e4 e7e5 g1f3'"});
+    EXPECT_EQ(Responder({"startpos moves e2e4"}), "e7e5");
+    EXPECT_EQ(Responder({"startpos moves e2e4 e7e5"}), "g1f3");
+    EXPECT_EQ(Responder({"startpos moves e2e4 c7c5"}), "");
+    EXPECT_EQ(Responder({"startpos moves e2e4"}), "");
+    PartidaNueva();
+    EXPECT_EQ(Responder({"startpos moves e2e4"}), "e7e5");
+    LibroSql.OwnBook = 0;
+    Position_Fen_Startpos("startpos moves e2e4");
+    LibroSql.OwnBook = 1;
+    EXPECT_EQ(BuscarJugadaLibro(), 0) << "\"position\" found the option off";
+}
+
+TEST_F(Libro, NoPierdeMemoriaEnDiezMilConsultas) {
+    EscribirLibro({"'e2e4 e7e5'"});
+    const auto consultar = [] {
+        PartidaNueva();
+        Responder({"startpos moves e2e4"});
+        ComprobarAccesoLibro();
+    };
+    consultar();
+    const sqlite3_int64 antes = sqlite3_memory_used();
+    for (int i = 0; i < 10000; ++i) consultar();
+    EXPECT_EQ(sqlite3_memory_used(), antes);
+    EXPECT_EQ(LibroSql.Conexion, nullptr);
+    EXPECT_EQ(LibroSql.Sentencia, nullptr);
+}
+
+TEST_F(Libro, ElProgramaContestaConDosLineas) {
+    EscribirLibro({"'e2e4 c7c5'"});
+    std::ofstream("ordenes") << "setoption name OwnBook value true\nposition startpos moves e2e4\ngo infinite\n";
+    ASSERT_EQ(std::system(TAMREK_PROGRAMA " < ordenes > salida"), 0);
+    std::string salida;
+    std::getline(std::ifstream("salida"), salida, '\0');
+    EXPECT_EQ(salida, "bestmove c7c5\ninfo string Libro de aperturas.\n");
+}

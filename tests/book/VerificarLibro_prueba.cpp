@@ -1,0 +1,109 @@
+#include <fstream>
+
+#include "book/CarpetaLibro.h"
+
+class VerificarLibro : public CarpetaLibro {};
+
+static const std::string ANALIZANDO = "Analizando libro de aperturas...\n";
+static const std::string CIERRE     = "Libro de apertura correcto.\n";
+static const std::string CORRECTO   = ANALIZANDO + CIERRE;
+static const std::string CORRUPTO   = ANALIZANDO + "Error: Libro de aperturas corrupto.\n";
+static const std::string CERRADO    = "Libro de apertura cargado: No.\n";
+
+static std::string Error(int codigo) {
+    return "Error en el libro de apertura.\nC\363digo de error: " + std::to_string(codigo) + "\n";
+}
+
+// What the move parser prints at the start position.
+static std::string Ilegal(const std::string& jugada) {
+    return "info string Movimiento ilegal: " + jugada +
+           "\ninfo string Enroque Blancas: 3\ninfo string Enroque Negras: 3\ninfo string Ficha al Paso: 0\n"
+           "info string Posici\363n Rey Blanco: 60\ninfo string Posici\363n Rey Negro: 4\n";
+}
+
+TEST_F(VerificarLibro, SoloLaPrimeraJugadaDelLibroPuedeFallar) {
+    const struct {
+        const char*              nombre;
+        std::vector<std::string> filas;
+        std::string              salida;
+    } casos[] = {
+        {"legal lines", {"'e2e4 e7e5'", "'d2d4'"}, CORRECTO},
+        {"empty table", {}, CORRECTO},
+        {"illegal first move and no further row", {"'e2e5 e7e5'"}, ANALIZANDO + Ilegal("e2e5") + CIERRE},
+        {"illegal first move",
+         {"'e2e5 e7e5'", "'d2d4'"},
+         ANALIZANDO + Ilegal("e2e5") + Error(100) + "Apertura incorrecta en: e2e5 e7e5\n"},
+        {"row too long for the report",
+         {"printf('%.*c', 101, 'x')", "'d2d4'"},
+         ANALIZANDO + Ilegal("xxxx") + Error(100) + "Apertura incorrecta en: \n"},
+        {"NULL first", {"NULL", "'d2d4'"}, ANALIZANDO + Ilegal("") + Error(100) + "Apertura incorrecta en: \n"},
+        {"illegal later",
+         {"'e2e4 e7e4'", "'e2e5'", "NULL", "''", "x'ff00ff'", "'e2'", "'e2e4q  e7e5qqqqqqqq'"},
+         CORRECTO},
+    };
+    for (const auto& caso : casos) {
+        SCOPED_TRACE(caso.nombre);
+        EscribirLibro(caso.filas);
+        EXPECT_EQ(Capturar(VerificarLibroApertura), caso.salida);
+        EXPECT_EQ(Salir, 0);
+        EXPECT_EQ(LibroSql.Terminado, 0);
+    }
+}
+
+TEST_F(VerificarLibro, ReproduceCadaLineaDesdeElPrincipio) {
+    EscribirLibro({"'e2e4 e7e5 g1f3'", "'h2h4 g7g5 h4g5 h7h6 g5h6 g8f6 h6h7 f6g8 h7g8q'"});
+    Capturar(VerificarLibroApertura);
+    EXPECT_EQ(TipoJuego.MovimientosJugados, 9);
+    EXPECT_EQ(TableroGlobal.Casillas[6], DAMA_B) << "a promotion letter is read";
+}
+
+// Each file is tried with a look-up of one game and with the command.
+TEST_F(VerificarLibro, FicherosQueNoSonUnLibro) {
+    const struct {
+        const char*           nombre;
+        std::function<void()> preparar;
+        std::string           consulta;
+        std::string           verificacion;
+    } casos[] = {
+        {"missing", [] {}, "", CORRUPTO},
+        {"folder", [] { std::filesystem::create_directory("Book.db"); }, CERRADO, ANALIZANDO + CERRADO},
+        {"garbage", [] { std::ofstream("Book.db") << std::string(5000, '#'); }, "", CORRUPTO},
+        {"cut short",
+         [] {
+             EscribirLibro({"'e2e4 e7e5'"});
+             std::filesystem::resize_file("Book.db", 1000);
+         },
+         "", CORRUPTO},
+        {"other table", [] { EscribirVista("SELECT 'e2e4 e7e5' AS Linea"); }, "", CORRUPTO},
+        {"endless view",
+         [] {
+             EscribirVista(
+                 "WITH RECURSIVE n(x) AS (SELECT 1 UNION ALL SELECT x + 1 FROM n) "
+                 "SELECT 'e2e4 e7e5' AS Partida FROM n WHERE x < 0");
+         },
+         Error(SQLITE_INTERRUPT), ANALIZANDO + Error(SQLITE_INTERRUPT) + "Apertura incorrecta en: \n"},
+    };
+    for (const auto& caso : casos) {
+        SCOPED_TRACE(caso.nombre);
+        std::filesystem::remove_all("Book.db");
+        caso.preparar();
+        LibroSql.Terminado = 0;
+        Position_Fen_Startpos("startpos moves e2e4");
+        EXPECT_EQ(Capturar([] { EXPECT_EQ(BuscarJugadaLibro(), 0); }), caso.consulta);
+        EXPECT_EQ(LibroSql.Terminado, 1);
+        EXPECT_EQ(Capturar(VerificarLibroApertura), caso.verificacion);
+    }
+}
+
+TEST_F(VerificarLibro, NoEsperaPorUnLibroBloqueado) {
+    EscribirLibro({"'e2e4 e7e5'"});
+    sqlite3* otro = nullptr;
+    ASSERT_EQ(sqlite3_open("Book.db", &otro), SQLITE_OK);
+    EjecutarSql(otro, "BEGIN EXCLUSIVE");
+    Position_Fen_Startpos("startpos moves e2e4");
+    EXPECT_EQ(Capturar([] { EXPECT_EQ(BuscarJugadaLibro(), 0); }), "");
+    EXPECT_EQ(Capturar(VerificarLibroApertura), ANALIZANDO + Error(SQLITE_BUSY) + "Apertura incorrecta en: \n");
+    EjecutarSql(otro, "ROLLBACK");
+    sqlite3_close(otro);
+    EXPECT_EQ(Capturar(VerificarLibroApertura), CORRECTO);
+}

@@ -1,0 +1,132 @@
+#include "search/Orden.h"
+
+#include <gtest/gtest.h>
+
+#include "search/Historico.h"
+#include "search/Lmr.h"
+#include "search/Puntuacion.h"
+
+static std::uint32_t Callada(int pieza, int desde, int hasta) {
+    return CrearMovimiento(desde, hasta, pieza, NINGUNA, NINGUNA);
+}
+
+class Orden : public testing::Test {
+protected:
+    void SetUp() override {
+        LimpiarHistorico();
+        TableroGlobal.Ply = 3;
+    }
+    static int Puntuar(std::uint32_t movimiento, std::uint32_t tabla = 0, std::uint32_t refutacion = 0) {
+        lista.Entradas[0].Movimiento = movimiento;
+        OrdenarMovimientosTodos(1, tabla, lista, refutacion);
+        return lista.Entradas[0].Puntos;
+    }
+    static ListaMovimientos lista;
+};
+ListaMovimientos Orden::lista;
+
+TEST_F(Orden, CapturasYCoronaciones) {
+    struct {
+        std::uint32_t Movimiento;
+        int           Puntos;
+    } const CASOS[] = {
+        {CrearMovimiento(36, 27, PEON_B, DAMA_N, NINGUNA), 5000319},
+        {CrearMovimiento(3, 51, DAMA_N, PEON_B, NINGUNA), 5000059},
+        {CrearMovimiento(60, 52, REY_B, TORRE_N, NINGUNA), 5000250},
+        {CrearMovimiento(8, 1, PEON_B, TORRE_N, DAMA_B), 4000251},
+        {CrearMovimiento(48, 57, PEON_N, CABALLO_B, CABALLO_N), 4000126},
+        {CrearMovimiento(8, 0, PEON_B, NINGUNA, DAMA_B), 3501000},
+        {CrearMovimiento(48, 56, PEON_N, NINGUNA, CABALLO_N), 3500325},
+        {Callada(PEON_B, 27, 18) | BIT_AL_PASO, 5000063},
+    };
+    for (const auto& caso : CASOS) {
+        EXPECT_EQ(Puntuar(caso.Movimiento), caso.Puntos);
+        EXPECT_EQ(Puntuar(caso.Movimiento, caso.Movimiento), 6000000);
+    }
+}
+
+TEST_F(Orden, BandasDeJugadasTranquilas) {
+    const std::uint32_t mov = Callada(CABALLO_B, 62, 45);
+    struct {
+        int Historico, Mate, Killer, Refutacion, Resto;
+    } constexpr CASOS[] = {{500, 1999950, 999950, 500050, 50},     {1000, 1999900, 999900, 500100, 100},
+                           {0, 2000102, 1000102, 499898, -102},    {-100, 2000026, 1000026, 499974, -26},
+                           {-400, 2000101, 1000101, 499899, -101}, {1, 2000000, 1000000, 500000, 0}};
+    Max_Historico       = 1000;
+    Min_Historico       = -400;
+    for (const auto& caso : CASOS) {
+        SCOPED_TRACE(caso.Historico);
+        Historico_Bueno[CABALLO_B][45] = caso.Historico;
+        EXPECT_EQ(Puntuar(mov), caso.Resto);
+        EXPECT_EQ(Puntuar(mov, 0, mov), caso.Refutacion);
+        for (const int hueco : {0, 1}) {
+            Historico_Killer[3][hueco] = mov;
+            EXPECT_EQ(Puntuar(mov, 0, mov), caso.Killer);
+            Historico_Killer_Mate[3][hueco] = mov;
+            EXPECT_EQ(Puntuar(mov), caso.Mate);
+            Historico_Killer[3][hueco] = Historico_Killer_Mate[3][hueco] = 0;
+        }
+    }
+}
+
+TEST_F(Orden, EntreIgualesVaDelanteElPrimero) {
+    const int puntos[] = {1, 5, 3, 5};
+    for (int i = 0; i < 4; ++i) lista.Entradas[i] = {static_cast<std::uint32_t>(i), puntos[i]};
+    std::string orden;
+    for (int i = 0; i < 4; ++i) orden += std::to_string(SiguienteMovimiento(lista, i, 4));
+    EXPECT_EQ(orden, "1320");
+}
+
+TEST_F(Orden, UnCortePremiaSuJugadaYCastigaLasQueFallaron) {
+    const std::uint32_t corte = Callada(ALFIL_N, 5, 26), otra = Callada(DAMA_N, 3, 19),
+                        previa   = Callada(PEON_B, 52, 36);
+    lista.Entradas[0].Movimiento = otra;
+    lista.Entradas[1].Movimiento = corte;
+    HistoricoActualizar(4, 50, corte, previa, lista, 2);
+    EXPECT_EQ(Historico_Bueno[ALFIL_N][26], 16);  // + 2 * 16, and - 16 for standing in the list itself
+    EXPECT_EQ(Historico_Bueno[DAMA_N][19], -16);
+    EXPECT_EQ(Max_Historico, 32);
+    EXPECT_EQ(Min_Historico, -16);
+    EXPECT_EQ(ObtenerRechazado(previa), corte);
+    EXPECT_EQ(ObtenerRechazado(0), 0U);
+
+    // With an illegal move before it the cut-off move lies behind the places that are debited.
+    HistoricoActualizar(4, 50, corte, 0, lista, 1);
+    EXPECT_EQ(Historico_Bueno[ALFIL_N][26], 48);
+    EXPECT_EQ(Historico_Bueno[DAMA_N][19], -32);
+}
+
+TEST_F(Orden, LosKillersGuardanLosDosUltimos) {
+    const std::uint32_t a = Callada(TORRE_B, 63, 61), b = Callada(TORRE_B, 63, 60);
+    for (const std::uint32_t mov : {a, b, b}) HistoricoActualizar(1, 50, mov, 0, lista, 0);
+    EXPECT_EQ(Historico_Killer[3][0], b);
+    EXPECT_EQ(Historico_Killer[3][1], a);
+    for (const int mate : {UMBRAL_MATE + 1, -UMBRAL_MATE - 1}) {
+        Historico_Killer_Mate[3][0] = 0;
+        HistoricoActualizar(1, mate, a, 0, lista, 0);
+        EXPECT_EQ(Historico_Killer_Mate[3][0], a);
+    }
+    EXPECT_EQ(Historico_Killer[3][0], b);
+}
+
+TEST_F(Orden, ElHistoricoSeSatura) {
+    const std::uint32_t mov        = Callada(TORRE_B, 63, 61);
+    Historico_Bueno[TORRE_B][61]   = HISTORICO_LIMITE - 1;
+    Historico_Bueno[CABALLO_B][45] = 1 - HISTORICO_LIMITE;
+    lista.Entradas[0].Movimiento   = Callada(CABALLO_B, 62, 45);
+    HistoricoActualizar(60, 50, mov, 0, lista, 1);
+    EXPECT_EQ(Max_Historico, HISTORICO_LIMITE);
+    EXPECT_EQ(Min_Historico, -HISTORICO_LIMITE);
+}
+
+TEST(Lmr, CreceConProfundidadYNumero) {
+    IniciarLmr();
+    constexpr int FILA_10[] = {0, 0, 0, 1, 1, 1, 2, 2, 2, 2, 2, 2};
+    for (int numero = 0; numero < 12; ++numero) EXPECT_EQ(lmr[10][numero], FILA_10[numero]) << numero;
+    EXPECT_EQ(lmr[2][255], 1);
+    EXPECT_EQ(lmr[8][4], 1);
+    EXPECT_EQ(lmr[20][30], 5);
+    EXPECT_EQ(lmr[63][255], 8);
+    for (int i = 0; i < LMR_COLUMNAS; ++i) EXPECT_EQ(lmr[0][i] + lmr[1][i] + lmr[i % LMR_FILAS][i / LMR_FILAS % 2], 0);
+    EXPECT_EQ(ReduccionLmr(64, 256), 8);
+}

@@ -1,0 +1,134 @@
+// The real library and its tables: what is printed at loading, odd folders and damaged tables.
+#include <unistd.h>
+
+#include <fstream>
+#include <random>
+#include <sstream>
+
+#include "tablebases/Biblioteca.h"
+
+namespace fs = std::filesystem;
+
+static const std::string SIN_TABLAS = "No 3-pc TBs available\nNo 4-pc TBs available\nNo 5-pc TBs available\n";
+static const std::string TRES = "3-pc TBs available\n3-pc TBs complete\nNo 4-pc TBs available\nNo 5-pc TBs available\n";
+static const std::string ESTADO   = "Initialized: Ok\n\nState cache: Ok\n\n";
+constexpr char           KQK[]    = "7k/8/6K1/8/8/8/8/1Q6 w - - 0 1";
+constexpr int            MATE_KQK = 31998;  // in one ply: Qb8
+
+struct Real : testing::Test {
+    BibliotecaPuesta Biblioteca{BIBLIOTECA_REAL};
+    fs::path         Carpeta = testing::TempDir() + "/tamrek_tablas_" + std::to_string(getpid());
+
+    void SetUp() override {
+        if (Biblioteca.Mango == nullptr) GTEST_SKIP() << SIN_PAQUETES;
+        fs::create_directory(Carpeta);
+        IniciarOpcionesGaviota();
+    }
+    ~Real() override {
+        Actualizar(0);
+        fs::remove_all(Carpeta);
+    }
+    fs::path CopiarTablas(const std::string& nombre, int compresion = 4) {
+        fs::remove_all(Carpeta / nombre);
+        fs::create_directories(Carpeta / nombre);
+        fs::copy(TABLAS_REALES + std::to_string(compresion), Carpeta / nombre);
+        return Carpeta / nombre;
+    }
+};
+
+static std::string Informe(const std::string& ruta, int compresion) {
+    const std::string esquema = "  Compression  Scheme = " + std::to_string(compresion) + "\n";
+    return "\nGTB PATHS\n  main: " + ruta + "\n\nGTB initialization\n" + esquema +
+           "  Compression Indexes (3-pc) = PASSED\n  Compression Indexes (4-pc) = **FAILED**\n"
+           "  Compression Indexes (5-pc) = **FAILED**\n\n\n";
+}
+
+TEST_F(Real, CadaEsquemaYCadaCache) {
+    for (int compresion = 1; compresion <= 4; ++compresion)
+        for (const int cache : {0, 1, 32, 1014}) {
+            SCOPED_TRACE(testing::Message() << compresion << " " << cache);
+            const std::string ruta = TABLAS_REALES + std::to_string(compresion);
+            EXPECT_EQ(Recargar(ruta, compresion, cache), Informe(ruta, compresion) + ESTADO + TRES);
+            EXPECT_EQ(Sondear(KQK), MATE_KQK);
+        }
+    for (const int compresion : {0, 5, 9}) {
+        EXPECT_TRUE(Recargar(TABLAS_REALES + "4", compresion).ends_with(ESTADO + SIN_TABLAS));
+        EXPECT_EQ(Sondear(KQK), std::nullopt);
+    }
+}
+
+TEST_F(Real, Carpetas) {
+    const std::string larga = CopiarTablas(std::string(200, 'a')).string() + "/";
+    const fs::path    hasta = larga + std::string(RUTA_MAX - larga.size(), 'b');
+    fs::rename(CopiarTablas("c"), hasta);
+    ASSERT_EQ(hasta.string().size(), static_cast<std::size_t>(RUTA_MAX));
+    for (const std::string& ruta : {hasta.string(), CopiarTablas("dos  blancos \361\303\261 %s").string()}) {
+        SCOPED_TRACE(ruta);
+        EXPECT_EQ(Recargar(ruta), Informe(ruta, 4) + ESTADO + TRES);
+        EXPECT_EQ(Sondear(KQK), MATE_KQK);
+    }
+
+    fs::create_directory(Carpeta / "vacia");
+    const fs::path cerrada = CopiarTablas("cerrada");
+    fs::permissions(cerrada, fs::perms::none);
+    const bool administrador = geteuid() == 0 && seteuid(65534) == 0;  // who may read everything
+    for (const std::string& ruta : {std::string("empty"), (Carpeta / "vacia").string(), cerrada.string(),
+                                    TABLAS_REALES + "4/kqk.gtb.cp4", std::string(RUTA_MAX, 'x')}) {
+        SCOPED_TRACE(ruta);
+        EXPECT_TRUE(Recargar(ruta).ends_with(ESTADO + SIN_TABLAS));
+        EXPECT_EQ(Sondear(KQK), std::nullopt);
+    }
+    EXPECT_EQ(administrador ? seteuid(0) : 0, 0);
+    fs::permissions(cerrada, fs::perms::owner_all);
+}
+
+// Only what the engine can see at the head of a file is refused; a damaged block must at least do no harm.
+TEST_F(Real, TablasDanadas) {
+    using Octetos = std::string;
+    struct {
+        const char* nombre;
+        Octetos (*danar)(Octetos);
+    } const danos[] = {
+        {"empty", [](Octetos) { return Octetos(); }},
+        {"cut in the header", [](Octetos o) { return o.substr(0, 20); }},
+        {"cut in the index", [](Octetos o) { return o.substr(0, 50); }},
+        {"cut in a block", [](Octetos o) { return o.substr(0, o.size() / 2); }},
+        {"last byte missing", [](Octetos o) { return o.substr(0, o.size() - 1); }},
+        {"a byte too many", [](Octetos o) { return o + "x"; }},
+        {"end of index lost", [](Octetos o) { return o.replace(32, 4, "\377\377\377\377"); }},
+        {"end of index odd", [](Octetos o) { return o.replace(32, 1, "\075"); }},
+        {"index not rising", [](Octetos o) { return o.replace(46, 1, "\001"); }},
+        {"all ones", [](Octetos o) { return Octetos(o.size(), '\377'); }},
+    };
+    for (int compresion = 1; compresion <= 4; ++compresion)
+        for (const auto& dano : danos) {
+            SCOPED_TRACE(testing::Message() << compresion << " " << dano.nombre);
+            const std::string  nombre = "kqk.gtb.cp" + std::to_string(compresion);
+            const fs::path     ruta   = CopiarTablas("d", compresion);
+            std::ostringstream sana;
+            sana << std::ifstream(ruta / nombre, std::ios::binary).rdbuf();
+            std::ofstream(ruta / nombre, std::ios::binary) << dano.danar(sana.str());
+            EXPECT_TRUE(
+                Recargar("/nowhere/;" + ruta.string(), compresion)
+                    .ends_with(TRES + "info string Error: Tabla de finales gaviota ilegible: " + nombre + "\n"));
+            EXPECT_EQ(Sondear(KQK), std::nullopt);
+        }
+    std::mt19937 azar(1);
+    for (int vez = 0; vez < 30; ++vez) {
+        const int      compresion = 2 + vez % 3;
+        const fs::path ruta       = CopiarTablas("d", compresion);
+        for (const char* pieza : {"p", "q", "r"}) {
+            const fs::path fichero = ruta / ("k" + std::string(pieza) + "k.gtb.cp" + std::to_string(compresion));
+            std::fstream   tabla(fichero, std::ios::in | std::ios::out | std::ios::binary);
+            for (int i = 0; i < 20; ++i) {
+                tabla.seekp(static_cast<long>(92 + azar() % (fs::file_size(fichero) - 92)));
+                tabla.put(static_cast<char>(azar()));
+            }
+        }
+        EXPECT_TRUE(Recargar(ruta, compresion).ends_with(TRES));
+        for (int i = 0; i < 18; ++i)
+            Sondear(("8/8/8/8/8/1k6/" + std::to_string(1 + i % 6) + "PQR"[i / 6] + std::to_string(6 - i % 6) +
+                     "/K7 b - - 0 1")
+                        .c_str());
+    }
+}
