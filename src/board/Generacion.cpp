@@ -1,33 +1,62 @@
 #include "board/Generacion.h"
 
+#include <array>
+#include <bit>
+
 #include "board/Ataques.h"
 #include "board/Color.h"
 #include "board/EstadoMotor.h"
 #include "board/Geometria.h"
 #include "board/Ocupacion.h"
 
-// A queen in the middle of an empty board makes 27 moves; no piece makes more.
-constexpr int MOVIMIENTOS_PIEZA_MAX = 32;
+// A queen in the middle of an empty board makes 27 moves, no piece makes more; and a ray writes up to 7 entries of
+// which the later ones may not count.
+constexpr int MOVIMIENTOS_PIEZA_MAX = 27 + 7;
 
 namespace {
 
-// Where the next move is written. A pointer of its own keeps IndexMove out of the innermost loops.
+// Where the next move is written, and the occupied squares. A pointer of its own keeps IndexMove out of the innermost
+// loops. Most moves are written before it is known whether they count and kept by advancing the pointer: which squares
+// are occupied is beyond any branch predictor.
 struct Salida {
     EntradaMovimiento* Siguiente;
-    int                Modo;
+    std::uint64_t      Propias;
+    std::uint64_t      Rivales;
 };
+
+// RAYOS[square][Direccion]: the squares from the square, itself left out, to the edge.
+constexpr std::array<std::array<std::uint64_t, DIRECCIONES>, 64> CalcularRayos() {
+    std::array<std::array<std::uint64_t, DIRECCIONES>, 64> tabla{};
+    for (unsigned casilla = 0; casilla < 64; ++casilla)
+        for (unsigned dir = 0; dir < DIRECCIONES; ++dir)
+            for (int paso = 1; paso <= ALCANCE[casilla][dir]; ++paso)
+                tabla[casilla][dir] |= std::uint64_t{1} << (static_cast<int>(casilla) + paso * PASO[dir]);
+    return tabla;
+}
+constexpr auto RAYOS = CalcularRayos();
+
+// The captured field of a move to a square that holds each code.
+constexpr std::array<std::uint32_t, 16> CalcularCamposCaptura() {
+    std::array<std::uint32_t, 16> tabla{};
+    for (unsigned pieza = 0; pieza < 16; ++pieza) tabla[pieza] = pieza << DESPLAZA_CAPTURA;
+    tabla[VACIO] = SIN_CAPTURA;
+    return tabla;
+}
+constexpr auto CAMPO_CAPTURA = CalcularCamposCaptura();
 
 void Anadir(Salida& salida, std::uint32_t mov) {
     (salida.Siguiente++)->Movimiento = mov;
 }
 
 // Every move that is not special: a capture when the target is occupied, else a quiet move (not in captures mode).
-void AddMoveRey(int desde, int hasta, int pieza, Salida& salida) {
-    const int captura = TableroGlobal.Casillas[hasta];
-    if (captura != VACIO)
-        Anadir(salida, CrearMovimiento(desde, hasta, pieza, captura, NINGUNA));
-    else if (salida.Modo != GENERAR_CAPTURAS)
-        Anadir(salida, CrearMovimiento(desde, hasta, pieza, NINGUNA, NINGUNA));
+// The target holds no piece of the mover's side, or the move does not count.
+template <int MODO>
+void AddMoveRey(std::uint32_t base, int hasta, Salida& salida) {
+    const int           ocupante = TableroGlobal.Casillas[hasta];
+    const std::uint64_t cuentan  = MODO == GENERAR_CAPTURAS ? salida.Rivales : ~salida.Propias;
+    salida.Siguiente->Movimiento =
+        base | static_cast<std::uint32_t>(hasta << DESPLAZA_HASTA) | CAMPO_CAPTURA[static_cast<unsigned>(ocupante)];
+    salida.Siguiente += (cuentan >> hasta) & 1;
 }
 
 // The four promotions, queen first; in both modes.
@@ -73,7 +102,7 @@ void CapturaAlPaso(int desde, Salida& salida) {
     }
 }
 
-template <int C>
+template <int C, int MODO>
 void ObtenerMovimientoPeon(int desde, Salida& salida) {
     constexpr int FILA_SALIDA   = 1;
     constexpr int FILA_SEPTIMA  = 6;
@@ -98,54 +127,59 @@ void ObtenerMovimientoPeon(int desde, Salida& salida) {
         AddMoveCoronacion<C>(desde, delante, salida);
         return;
     }
-    if (salida.Modo == GENERAR_CAPTURAS) return;
-    AddMoveRey(desde, delante, PEON<C>, salida);
+    if constexpr (MODO == GENERAR_CAPTURAS) return;
+    Anadir(salida, CrearMovimiento(desde, delante, PEON<C>, NINGUNA, NINGUNA));
     const int doble = delante + ADELANTE<C>;
     if (fila == FILA_SALIDA && casillas[doble] == VACIO) AddMovePosicionFichaAlPaso(desde, doble, PEON<C>, salida);
 }
 
-template <int C>
+template <int MODO>
 void Saltar(int desde, int pieza, const Saltos& saltos, Salida& salida) {
-    for (int i = 0; i < saltos.Numero; ++i)
-        if (!EsPropia<C>(TableroGlobal.Casillas[saltos.Casillas[i]]))
-            AddMoveRey(desde, saltos.Casillas[i], pieza, salida);
+    const std::uint32_t base = CrearMovimiento(desde, 0, pieza, 0, NINGUNA);
+    for (int i = 0; i < saltos.Numero; ++i) AddMoveRey<MODO>(base, saltos.Casillas[i], salida);
 }
 
-template <int C>
+template <int C, int MODO>
 void ObtenerMovimientoCaballo(int desde, Salida& salida) {
-    Saltar<C>(desde, CABALLO<C>, SALTOS_CABALLO[static_cast<unsigned>(desde)], salida);
+    Saltar<MODO>(desde, CABALLO<C>, SALTOS_CABALLO[static_cast<unsigned>(desde)], salida);
 }
 
-// The rays from primera to ultima: over empty squares up to the first piece, which is taken if it is the enemy's.
-template <int C>
-void Deslizar(int desde, int pieza, int primera, int ultima, Salida& salida) {
-    const int*          casillas = TableroGlobal.Casillas;
-    const std::uint32_t base     = CrearMovimiento(desde, 0, pieza, 0, NINGUNA);
-    for (int dir = primera; dir <= ultima; ++dir) {
-        int hasta = desde;
-        for (int pasos = ALCANCE[static_cast<unsigned>(desde)][static_cast<unsigned>(dir)]; pasos > 0; --pasos) {
-            hasta += PASO[dir];
-            const int           ocupante = casillas[hasta];
-            const std::uint32_t destino  = base | static_cast<std::uint32_t>(hasta << DESPLAZA_HASTA);
-            if (ocupante == VACIO) {
-                if (salida.Modo != GENERAR_CAPTURAS) Anadir(salida, destino | SIN_CAPTURA);
-                continue;
-            }
-            if (EsRival<C>(ocupante))
-                Anadir(salida, destino | static_cast<std::uint32_t>(ocupante << DESPLAZA_CAPTURA));
-            break;
-        }
+// One ray: over empty squares up to the first piece, which is taken if it is the enemy's.
+template <int DIR, int MODO>
+void DeslizarRayo(int desde, std::uint32_t base, Salida& salida) {
+    constexpr int       SALTO    = PASO[DIR];
+    const auto          indice   = static_cast<unsigned>(desde);
+    const std::uint64_t ocupadas = RAYOS[indice][DIR] & (salida.Propias | salida.Rivales);
+    // Without a piece on the ray the blocker is the square itself, which the mover's own piece occupies.
+    const std::uint64_t candidatas = ocupadas != 0 ? ocupadas : std::uint64_t{1} << desde;
+    const int           tope       = SALTO > 0 ? std::countr_zero(candidatas) : 63 - std::countl_zero(candidatas);
+    if (MODO != GENERAR_CAPTURAS) {
+        constexpr int MAXIMO = 7;
+        const int     libres = ocupadas != 0 ? (tope - desde) / SALTO - 1 : ALCANCE[indice][DIR];
+        const auto    paso   = static_cast<std::uint32_t>(SALTO) << DESPLAZA_HASTA;
+        std::uint32_t mov    = base + (static_cast<std::uint32_t>(desde) << DESPLAZA_HASTA) + SIN_CAPTURA;
+        for (int i = 0; i < MAXIMO; ++i) salida.Siguiente[i].Movimiento = mov += paso;
+        salida.Siguiente += libres;
     }
+    AddMoveRey<GENERAR_CAPTURAS>(base, tope, salida);
 }
 
-template <int C>
+template <int MODO>
 void ObtenerMovimientoAlfil(int desde, int pieza, Salida& salida) {
-    Deslizar<C>(desde, pieza, 0, PRIMERA_RECTA - 1, salida);
+    const std::uint32_t base = CrearMovimiento(desde, 0, pieza, 0, NINGUNA);
+    DeslizarRayo<DIR_MAS_9, MODO>(desde, base, salida);
+    DeslizarRayo<DIR_MAS_7, MODO>(desde, base, salida);
+    DeslizarRayo<DIR_MENOS_7, MODO>(desde, base, salida);
+    DeslizarRayo<DIR_MENOS_9, MODO>(desde, base, salida);
 }
 
-template <int C>
+template <int MODO>
 void ObtenerMovimientoTorre(int desde, int pieza, Salida& salida) {
-    Deslizar<C>(desde, pieza, PRIMERA_RECTA, DIRECCIONES - 1, salida);
+    const std::uint32_t base = CrearMovimiento(desde, 0, pieza, 0, NINGUNA);
+    DeslizarRayo<DIR_MAS_8, MODO>(desde, base, salida);
+    DeslizarRayo<DIR_MENOS_8, MODO>(desde, base, salida);
+    DeslizarRayo<DIR_MENOS_1, MODO>(desde, base, salida);
+    DeslizarRayo<DIR_MAS_1, MODO>(desde, base, salida);
 }
 
 // All squares strictly between the king and the corner are empty and the corner holds the rook.
@@ -171,33 +205,33 @@ void ObtenerEnroques(int desde, Salida& salida) {
     if (largo && !Jaque2(CASA - 1)) AddMoveEnroque(CASA, CASA - 2, REY<C>, salida);
 }
 
-template <int C>
+template <int C, int MODO>
 void ObtenerMovimientoRey(int desde, Salida& salida) {
-    if (salida.Modo != GENERAR_CAPTURAS && EnroqueDe<C>() != SIN_ENROQUE) ObtenerEnroques<C>(desde, salida);
-    Saltar<C>(desde, REY<C>, SALTOS_REY[static_cast<unsigned>(desde)], salida);
+    if (MODO != GENERAR_CAPTURAS && EnroqueDe<C>() != SIN_ENROQUE) ObtenerEnroques<C>(desde, salida);
+    Saltar<MODO>(desde, REY<C>, SALTOS_REY[static_cast<unsigned>(desde)], salida);
 }
 
-template <int C>
+template <int C, int MODO>
 void GenerarPieza(int desde, Salida& salida) {
     switch (TableroGlobal.Casillas[desde]) {
         case PEON<C>:
-            ObtenerMovimientoPeon<C>(desde, salida);
+            ObtenerMovimientoPeon<C, MODO>(desde, salida);
             break;
         case CABALLO<C>:
-            ObtenerMovimientoCaballo<C>(desde, salida);
+            ObtenerMovimientoCaballo<C, MODO>(desde, salida);
             break;
         case ALFIL<C>:
-            ObtenerMovimientoAlfil<C>(desde, ALFIL<C>, salida);
+            ObtenerMovimientoAlfil<MODO>(desde, ALFIL<C>, salida);
             break;
         case TORRE<C>:
-            ObtenerMovimientoTorre<C>(desde, TORRE<C>, salida);
+            ObtenerMovimientoTorre<MODO>(desde, TORRE<C>, salida);
             break;
         case DAMA<C>:
-            ObtenerMovimientoTorre<C>(desde, DAMA<C>, salida);
-            ObtenerMovimientoAlfil<C>(desde, DAMA<C>, salida);
+            ObtenerMovimientoTorre<MODO>(desde, DAMA<C>, salida);
+            ObtenerMovimientoAlfil<MODO>(desde, DAMA<C>, salida);
             break;
         case REY<C>:
-            ObtenerMovimientoRey<C>(desde, salida);
+            ObtenerMovimientoRey<C, MODO>(desde, salida);
             break;
         default:
             Salir = 1;
@@ -205,11 +239,11 @@ void GenerarPieza(int desde, Salida& salida) {
 }
 
 // The moves of one piece when the list might not hold them all: through a list of its own, copying what fits.
-template <int C>
+template <int C, int MODO>
 void GenerarPiezaConCuidado(int desde, Salida& salida, const EntradaMovimiento* fin) {
     EntradaMovimiento propias[MOVIMIENTOS_PIEZA_MAX];
-    Salida            aparte{propias, salida.Modo};
-    GenerarPieza<C>(desde, aparte);
+    Salida            aparte{propias, salida.Propias, salida.Rivales};
+    GenerarPieza<C, MODO>(desde, aparte);
     for (const EntradaMovimiento* entrada = propias; entrada != aparte.Siguiente; ++entrada) {
         if (salida.Siguiente == fin) {
             Salir = 1;
@@ -219,20 +253,25 @@ void GenerarPiezaConCuidado(int desde, Salida& salida, const EntradaMovimiento* 
     }
 }
 
-template <int C>
-int Generar(int modo, ListaMovimientos& lista) {
+template <int C, int MODO>
+int Generar(ListaMovimientos& lista) {
     const EntradaMovimiento* const fin = lista.Entradas + MOVIMIENTOS_MAX;
-    Salida                         salida{lista.Entradas, modo};
-    for (std::uint64_t propias = MascaraPropias<C>(); propias != 0;) {
+    Salida                         salida{lista.Entradas, MascaraPropias<C>(), MascaraPropias<RIVAL<C>>()};
+    for (std::uint64_t propias = salida.Propias; propias != 0;) {
         const int desde = TomarCasilla<C>(propias);
         if (fin - salida.Siguiente >= MOVIMIENTOS_PIEZA_MAX)
-            GenerarPieza<C>(desde, salida);
+            GenerarPieza<C, MODO>(desde, salida);
         else
-            GenerarPiezaConCuidado<C>(desde, salida, fin);
+            GenerarPiezaConCuidado<C, MODO>(desde, salida, fin);
     }
     IndexMove = static_cast<int>(salida.Siguiente - lista.Entradas);
     if (IndexMove >= MOVIMIENTOS_MAX) Salir = 1;
     return IndexMove;
+}
+
+template <int C>
+int Generar(int modo, ListaMovimientos& lista) {
+    return modo == GENERAR_CAPTURAS ? Generar<C, GENERAR_CAPTURAS>(lista) : Generar<C, GENERAR_TODOS>(lista);
 }
 
 }  // namespace
