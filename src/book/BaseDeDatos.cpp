@@ -14,9 +14,9 @@ constexpr std::uint64_t PLAZO_LIBRO = 3000;  // milliseconds of SQLite's own wor
 // SQLite looks at the clock between instructions of its machine only, so the texts that one instruction may work on
 // are short enough to keep each of them brief.
 constexpr int           INSTRUCCIONES_POR_CONTROL = 20;
-constexpr int           TEXTO_MAX                 = 1'000'000;         // bytes of a row
-constexpr int           PATRON_MAX                = CONSULTA_MAX;      // bytes of a pattern of LIKE
-constexpr sqlite3_int64 MEMORIA_MAX               = 64 * 1024 * 1024;  // bytes; stops views that unfold without end
+constexpr int           TEXTO_MAX                 = 1'000'000;           // bytes of a row
+constexpr int           PATRON_MAX                = CONSULTA_MAX;        // bytes of a pattern of LIKE
+constexpr sqlite3_int64 MEMORIA_MAX               = 64LL * 1024 * 1024;  // bytes; stops views that unfold without end
 
 static std::uint64_t TiempoRestante;  // milliseconds that SQLite may still work
 static std::uint64_t InicioPaso;      // tick count at the start of the current step

@@ -28,7 +28,8 @@ void FijarLineaLibro(const char* movimientos) {
     }
     LimpiarLineaLibro();
     const std::size_t letras = std::strlen(movimientos);
-    if (letras < static_cast<std::size_t>(LibroSql.OwnBookLimit * LETRAS_POR_LIMITE) && letras <= LINEA_LIBRO_MAX)
+    const int         limite = LibroSql.OwnBookLimit * LETRAS_POR_LIMITE;
+    if (letras < static_cast<std::size_t>(limite) && letras <= LINEA_LIBRO_MAX)
         std::memcpy(LibroSql.Linea, movimientos, letras);
     else
         AbandonarLibro();
