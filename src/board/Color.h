@@ -50,6 +50,14 @@ constexpr int FilaRelativa(int casilla) {
     return C == BLANCO ? 7 - (casilla >> 3) : casilla >> 3;
 }
 
+// Where the king, and from it the rooks of each wing, stand at the start of the game.
+template <int C>
+constexpr int CASA_REY = (C == BLANCO) ? 60 : 4;
+template <int C>
+constexpr int ESQUINA_CORTA = CASA_REY<C> + 3;
+template <int C>
+constexpr int ESQUINA_LARGA = CASA_REY<C> - 4;
+
 template <int C>
 inline RegistroBando& BandoDe() {
     return C == BLANCO ? Blancas : Negras;

@@ -104,13 +104,13 @@ void CapturaAlPaso(int desde, Salida& salida) {
 
 template <int C, int MODO>
 void ObtenerMovimientoPeon(int desde, Salida& salida) {
-    constexpr int FILA_SALIDA   = 1;
-    constexpr int FILA_SEPTIMA  = 6;
-    constexpr int FILA_CORONADA = 7;
-    const int*    casillas      = TableroGlobal.Casillas;
-    const int     fila          = FilaRelativa<C>(desde);
+    constexpr int FILA_SALIDA     = 1;
+    constexpr int FILA_SEPTIMA    = 6;
+    constexpr int FILA_CORONACION = 7;
+    const int*    casillas        = TableroGlobal.Casillas;
+    const int     fila            = FilaRelativa<C>(desde);
     if (TableroGlobal.FichaAlPaso != 0) CapturaAlPaso<C>(desde, salida);
-    if (fila == FILA_CORONADA) return;  // only a foolish FEN puts a pawn there
+    if (fila == FILA_CORONACION) return;  // only a foolish FEN puts a pawn there
 
     const int delante = desde + ADELANTE<C>;
     for (const auto& diagonal : DIAGONALES<C>) {
@@ -193,13 +193,11 @@ bool CaminoLibre(int rey, int esquina) {
 
 template <int C>
 void ObtenerEnroques(int desde, Salida& salida) {
-    constexpr int CASA          = C == BLANCO ? 60 : 4;
-    constexpr int ESQUINA_CORTA = CASA + 3;
-    constexpr int ESQUINA_LARGA = CASA - 4;
-    const int     estado        = EnroqueDe<C>();
+    constexpr int CASA   = CASA_REY<C>;
+    const int     estado = EnroqueDe<C>();
     if (desde != CASA) return;
-    const bool corto = (estado & ~ENROQUE_LARGO) == ENROQUE_CORTO && CaminoLibre<C>(CASA, ESQUINA_CORTA);
-    const bool largo = (estado == ENROQUE_LARGO || estado == ENROQUE_AMBOS) && CaminoLibre<C>(CASA, ESQUINA_LARGA);
+    const bool corto = (estado & ~ENROQUE_LARGO) == ENROQUE_CORTO && CaminoLibre<C>(CASA, ESQUINA_CORTA<C>);
+    const bool largo = (estado == ENROQUE_LARGO || estado == ENROQUE_AMBOS) && CaminoLibre<C>(CASA, ESQUINA_LARGA<C>);
     if ((!corto && !largo) || Jaque2(CASA)) return;
     if (corto && !Jaque2(CASA + 1)) AddMoveEnroque(CASA, CASA + 2, REY<C>, salida);
     if (largo && !Jaque2(CASA - 1)) AddMoveEnroque(CASA, CASA - 2, REY<C>, salida);

@@ -34,11 +34,9 @@ struct SaltoTorre {
     int Hasta;
 };
 template <int C>
-constexpr int CASA_REY = C == BLANCO ? 60 : 4;
-template <int C>
 SaltoTorre TorreDelEnroque(int hasta_rey) {
-    if (hasta_rey == CASA_REY<C> + 2) return {CASA_REY<C> + 3, CASA_REY<C> + 1};
-    if (hasta_rey == CASA_REY<C> - 2) return {CASA_REY<C> - 4, CASA_REY<C> - 1};
+    if (hasta_rey == CASA_REY<C> + 2) return {ESQUINA_CORTA<C>, CASA_REY<C> + 1};
+    if (hasta_rey == CASA_REY<C> - 2) return {ESQUINA_LARGA<C>, CASA_REY<C> - 1};
     Salir = 1;
     return {hasta_rey, hasta_rey};
 }
@@ -75,7 +73,7 @@ void PerderEnroque(int desde, int pieza, std::uint64_t& key) {
     if (pieza == REY<C>) {
         CambiarEnroque<C>(SIN_ENROQUE, key);
     } else if (pieza == TORRE<C>) {
-        const int perdido = desde == CASA_REY<C> + 3 ? ENROQUE_CORTO : desde == CASA_REY<C> - 4 ? ENROQUE_LARGO : 0;
+        const int perdido = desde == ESQUINA_CORTA<C> ? ENROQUE_CORTO : desde == ESQUINA_LARGA<C> ? ENROQUE_LARGO : 0;
         if ((estado & perdido) != 0) CambiarEnroque<C>(estado & ~perdido, key);
     }
 }

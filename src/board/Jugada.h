@@ -22,7 +22,7 @@ constexpr std::uint32_t BIT_DOBLE_AVANCE = 1U << 27;
 constexpr std::uint32_t BIT_ENROQUE      = 1U << 28;
 constexpr std::uint32_t SIN_CAPTURA      = 15U << DESPLAZA_CAPTURA;
 constexpr std::uint32_t SIN_CORONACION   = 15U << DESPLAZA_CORONACION;
-constexpr std::uint32_t CALLADO          = SIN_CAPTURA | SIN_CORONACION;  // both fields of a quiet move
+constexpr std::uint32_t TRANQUILO        = SIN_CAPTURA | SIN_CORONACION;  // both fields of a quiet move
 
 constexpr int Desde(std::uint32_t mov) {
     return static_cast<int>(mov & 127U);
@@ -54,7 +54,7 @@ constexpr bool EsEnroque(std::uint32_t mov) {
 
 // Neither capture nor en passant nor promotion.
 constexpr bool EsTranquilo(std::uint32_t mov) {
-    return (mov & (CALLADO | BIT_AL_PASO)) == CALLADO;
+    return (mov & (TRANQUILO | BIT_AL_PASO)) == TRANQUILO;
 }
 
 constexpr std::uint32_t CrearMovimiento(int desde, int hasta, int pieza, int captura, int coronacion) {

@@ -86,12 +86,12 @@ constexpr int PENALIZACION_PEON_RETRASADO_OP = 8;  // only with an open file in 
 constexpr int PENALIZACION_PEON_RETRASADO_EG = 8;
 constexpr int BONUS_PEON_CENTRAL_AVANZADO    = 5;  // opening
 
-constexpr float UN_TERCIO      = 0.33333334F;   // a candidate's part of the passed pawn's bonus
-constexpr float UN_TREINTAVO   = 0.033333335F;  // what each unit of the king's nearness takes off the bonus
-constexpr int   LIBRE          = 100;           // percent of the bonus of a passed pawn that can step ahead
-constexpr int   BLOQUEADO      = 80;            // ... with an enemy piece in front of it
-constexpr int   PASADO_EG      = 8;             // start of the endgame half of BONUS_PASSED
-constexpr int   FILA_PROMOCION = 7;             // as the side counts it
+constexpr float UN_TERCIO       = 0.33333334F;   // a candidate's part of the passed pawn's bonus
+constexpr float UN_TREINTAVO    = 0.033333335F;  // what each unit of the king's nearness takes off the bonus
+constexpr int   LIBRE           = 100;           // percent of the bonus of a passed pawn that can step ahead
+constexpr int   BLOQUEADO       = 80;            // ... with an enemy piece in front of it
+constexpr int   PASADO_EG       = 8;             // start of the endgame half of BONUS_PASSED
+constexpr int   FILA_CORONACION = 7;             // as the side counts it
 
 constexpr Conjunto ALA_DAMA = COLUMNA_A * 0x0F;  // files a to d
 constexpr Conjunto ALA_REY  = ALA_DAMA << 4;     // files e to h
@@ -177,7 +177,7 @@ bool SinPiezas() {
 // Rule of the square: the enemy king cannot catch the pawn. The double step is not taken into account.
 template <int C>
 bool EsImparable(int casilla, int rey_rival) {
-    const int pasos    = FILA_PROMOCION - FilaRelativa<C>(casilla);
+    const int pasos    = FILA_CORONACION - FilaRelativa<C>(casilla);
     const int promover = casilla + pasos * ADELANTE<C>;
     const int cedido   = TableroGlobal.Turno == RIVAL<C> ? 1 : 0;
     return pasos + cedido < DistanciaRey(rey_rival, promover);

@@ -39,7 +39,7 @@ static bool PermiteImprimir(int profundidad) {
            static_cast<float>(transcurrido) > static_cast<float>(TipoJuego.TiempoAsignado) * TERCIO;
 }
 
-// Writes row 0, each move followed by a blank. Returns the number of jugadas.
+// Writes row 0, each move followed by a blank. Returns the number of moves.
 static int TextoPv(char (&texto)[TEXTO_PV_MAX + 1]) {
     int jugadas = 0;
     int usados  = 0;

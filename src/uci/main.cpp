@@ -34,8 +34,8 @@ static int LeerArgumentos(int argc, char** argv, Argumentos& argumentos) {
             argumentos.HaySemilla = 1;
             argumentos.Semilla    = static_cast<unsigned>(NumeroDe32Bits(argv[++i]));
         } else if (std::strcmp(argv[i], "bench") == 0 && argumentos.Banco == 0) {
-            const bool hayProfundidad = i + 1 < argc && Es_Numero(argv[i + 1]) != 0;
-            argumentos.Banco          = hayProfundidad ? LeerProfundidadBanco(argv[++i]) : PROFUNDIDAD_BANCO;
+            const bool hay_profundidad = i + 1 < argc && Es_Numero(argv[i + 1]) != 0;
+            argumentos.Banco           = hay_profundidad ? LeerProfundidadBanco(argv[++i]) : PROFUNDIDAD_BANCO;
             if (argumentos.Banco == 0) return 0;
         } else
             return 0;

@@ -42,14 +42,14 @@ TEST_F(Intercambio, SumaHastaLaUltimaRecapturaSinSuGanancia) {
 // Every attacker in turn, cheapest first, with the king's own safety respected.
 TEST_F(Intercambio, LosAtacantesLleganPorSuValor) {
     Fen("3r4/8/2n2k2/2b1p3/3N4/5N2/3RQB2/3RK3 b - - 0 1");
-    const int   d4       = 35;
-    std::string esperado = "e5d4 f3d4 c6d4 f2d4 c5d4 d2d4 d8d4 d1d4";
+    const int   d4 = 35;
     std::string vistos;
     for (int bando = 0;; bando ^= 1) {
         const std::uint32_t mov = Obtener_Ataques_Menores(d4, bando);
         if (mov == 0) break;
-        vistos += (vistos.empty() ? "" : " ") + Texto(mov);
+        vistos += Texto(mov);
+        vistos += ' ';
     }
-    EXPECT_EQ(vistos, esperado);
+    EXPECT_EQ(vistos, "e5d4 f3d4 c6d4 f2d4 c5d4 d2d4 d8d4 d1d4 ");
     IniciarSee();
 }
