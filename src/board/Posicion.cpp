@@ -108,11 +108,11 @@ int Position_Fen_Startpos(const char* texto) {
     if (por_fen) {
         char fen[FEN_MAX + 2] = "";
         texto                 = ReunirFen(texto, palabra, fen);
+        AbandonarLibro();
         if (!CargarFen(fen)) {
             std::printf("info string Formato FEN incorrecto.\n");
             return Position_Fen_Startpos(FEN_INICIAL);
         }
-        AbandonarLibro();
     } else {
         texto = Split_String(texto, palabra);
         if (!CargarFen(FEN_INICIAL)) {
@@ -125,10 +125,7 @@ int Position_Fen_Startpos(const char* texto) {
     t.Key = ObtenerKey();
 
     if (std::strcmp(palabra, "moves") == 0) {
-        if (por_fen)
-            AbandonarLibro();
-        else
-            FijarLineaLibro(*texto == ' ' ? texto + 1 : texto);
+        if (!por_fen) FijarLineaLibro(*texto == ' ' ? texto + 1 : texto);
         JugarLista(texto);
     }
     t.TurnoRaiz = t.Turno;

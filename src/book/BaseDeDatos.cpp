@@ -9,8 +9,6 @@ constexpr char NOMBRE_LIBRO[]   = "file:Book.db";
 constexpr int  MODO_APERTURA    = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_URI;
 constexpr char CONSULTA_TOTAL[] = "SELECT COUNT(Partida) FROM Book;";
 
-constexpr std::uint64_t PLAZO_LIBRO = 3000;  // milliseconds of SQLite's own work in one command
-
 // SQLite looks at the clock between instructions of its machine only, so the texts that one instruction may work on
 // are short enough to keep each of them brief.
 constexpr int           INSTRUCCIONES_POR_CONTROL = 20;
@@ -34,8 +32,8 @@ static void LimitarRecursos() {
     sqlite3_progress_handler(conexion, INSTRUCCIONES_POR_CONTROL, PlazoAgotado, nullptr);
 }
 
-int AbrirBaseDeDatos() {
-    TiempoRestante = PLAZO_LIBRO;
+int AbrirBaseDeDatos(int plazo) {
+    TiempoRestante = static_cast<std::uint64_t>(plazo);
     InicioPaso     = ObtenerMilisegundos();
     if (sqlite3_open_v2(NOMBRE_LIBRO, &LibroSql.Conexion, MODO_APERTURA, nullptr) != SQLITE_OK) return 0;
     LimitarRecursos();

@@ -5,9 +5,13 @@
 // gives SQLite a budget of time and of memory; a statement that exceeds it fails as on any other error.
 #pragma once
 
-// Opens Book.db in the working directory; a missing file is created empty. Returns 1, or 0 when it cannot be
-// opened; to be closed in either case.
-int AbrirBaseDeDatos();
+// Milliseconds of SQLite's own work in one command. A look-up runs on the engine's clock.
+constexpr int PLAZO_CONSULTA     = 500;
+constexpr int PLAZO_VERIFICACION = 3000;
+
+// Opens Book.db in the working directory; a missing file is created empty. plazo: the command's budget in
+// milliseconds. Returns 1, or 0 when it cannot be opened; to be closed in either case.
+int AbrirBaseDeDatos(int plazo);
 
 // Makes sql the current statement. Returns an SQLite result code.
 int PrepararConsulta(const char* sql);

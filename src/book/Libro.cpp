@@ -105,7 +105,7 @@ int BuscarJugadaLibro() {
     if (LibroSql.Terminado != 0 || LibroSql.OwnBook == 0) return 0;
     LimpiarTextos();
     bool hallada = false;
-    if (AbrirBaseDeDatos() != 0)
+    if (AbrirBaseDeDatos(PLAZO_CONSULTA) != 0)
         hallada = ElegirJugada();
     else
         std::printf("Libro de apertura cargado: No.\n");
@@ -115,7 +115,7 @@ int BuscarJugadaLibro() {
 }
 
 int ComprobarAccesoLibro() {
-    const int abierta = AbrirBaseDeDatos();
+    const int abierta = AbrirBaseDeDatos(PLAZO_CONSULTA);
     CerrarBaseDeDatos();
     LimpiarTextos();
     return abierta;

@@ -62,7 +62,7 @@ static void VerificarFilas() {
 
 void VerificarLibroApertura() {
     std::printf("Analizando libro de aperturas...\n");
-    if (AbrirBaseDeDatos() == 0) {
+    if (AbrirBaseDeDatos(PLAZO_VERIFICACION) == 0) {
         std::printf("Libro de apertura cargado: No.\n");
         AbandonarLibro();
         CerrarBaseDeDatos();

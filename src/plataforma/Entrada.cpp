@@ -28,9 +28,13 @@ static int LongitudDisponible(int limite) {
     return examinados == limite - 1 || FinDeEntrada != 0 ? examinados : 0;
 }
 
+// The last line of the input may lack its LF, but not its CR.
 static void QuitarFinDeLinea(char* linea, int letras) {
-    if (letras == 0 || linea[letras - 1] != '\n') return;
-    linea[--letras] = '\0';
+    const bool ultima = FinDeEntrada != 0 && Inicio == Fin;
+    if (letras > 0 && linea[letras - 1] == '\n')
+        linea[--letras] = '\0';
+    else if (!ultima)
+        return;
     if (letras > 0 && linea[letras - 1] == '\r') linea[letras - 1] = '\0';
 }
 

@@ -49,10 +49,10 @@ static std::uint16_t CrearInfo(int profundidad, int cota) {
 }
 
 // A mate is stored by its distance from the node and read back by its distance from the root, since the same
-// position is reached at different plies.
+// position is reached at different plies. Scores of the tablebases leave the ply out, so they could pass the limit.
 static int PuntosDesdeNodo(int puntos) {
-    if (puntos > UMBRAL_MATE) return puntos + TableroGlobal.Ply;
-    if (puntos < -UMBRAL_MATE) return puntos - TableroGlobal.Ply;
+    if (puntos > UMBRAL_MATE) return std::min(puntos + TableroGlobal.Ply, VALOR_MATE);
+    if (puntos < -UMBRAL_MATE) return std::max(puntos - TableroGlobal.Ply, -VALOR_MATE);
     return puntos;
 }
 static int PuntosDesdeRaiz(int puntos) {

@@ -10,12 +10,20 @@
 constexpr std::uint64_t NODOS_POR_SONDEO = 2048;  // a power of two
 constexpr int           LINEA_SONDEO     = 80;    // longest line a poll reads, terminating '\0' included
 
+// The first iteration of any position that a game can reach takes some thousand nodes. Boards full of queens never
+// end it; neither the clock nor the end of the input may cut it, so the engine gives up as on an inconsistency.
+constexpr std::uint64_t NODOS_PRIMERA_ITERACION = 10000000;
+
 static_assert((NODOS_POR_SONDEO & (NODOS_POR_SONDEO - 1)) == 0);
 
 // The first iteration always ends, and no search is cut before it has a move to play.
 static bool SeAcaboElTiempo() {
     return TipoJuego.ProfundidadActual >= 2 && TipoJuego.LimiteTiempo == 1 &&
            ObtenerMilisegundos() - TipoJuego.TiempoInicio >= TipoJuego.TiempoAsignado && pv_line_fin[0] != 0;
+}
+
+static bool NoTieneFin() {
+    return TipoJuego.ProfundidadActual == 1 && TipoJuego.Nodos >= NODOS_PRIMERA_ITERACION;
 }
 
 // Consumes one waiting line. Only "stop" means anything during a search.
@@ -28,6 +36,7 @@ static void Entrada_StdIn() {
 // Called at every node, so the common path is this one test; clock and input wait for one node in 2048.
 void ComprobarTiempo() {
     if ((TipoJuego.Nodos & (NODOS_POR_SONDEO - 1)) != 0) return;
+    if (NoTieneFin()) Salir = 1;
     if (Salir != 0 || SeAcaboElTiempo()) TipoJuego.Parar = 1;
     Entrada_StdIn();
 }

@@ -48,12 +48,12 @@ TEST(Entrada, EntregaLineasYTrozosSinEsperar) {
             EXPECT_EQ(Leer(caso.limite), linea);
         }
     }
-    Escribir("quit");
-    EXPECT_EQ(HayLinea(6), 0) << "half a line";
-    EXPECT_EQ(HayLinea(5), 1) << "as long as the limit allows";
+    Escribir("quit\r");
+    EXPECT_EQ(HayLinea(7), 0) << "half a line";
+    EXPECT_EQ(HayLinea(6), 1) << "as long as the limit allows";
     close(TUBO);
-    EXPECT_EQ(HayLinea(6), 1) << "nothing more can follow";
-    EXPECT_EQ(Leer(80), "quit");
+    EXPECT_EQ(HayLinea(7), 1) << "nothing more can follow";
+    EXPECT_EQ(Leer(80), "quit") << "the last line may lack its LF";
     EXPECT_EQ(HayLinea(80), 1);
     EXPECT_EQ(Leer(80), "end of input");
 }

@@ -40,6 +40,11 @@ TEST(ComprobarTiempo, ParaConTodasLasCondiciones) {
     TipoJuego.Nodos             = 4096;
     TipoJuego.ProfundidadActual = 1;
     EXPECT_EQ(Sondear(), 0) << "first iteration";
+    TipoJuego.Nodos = 1U << 24;
+    EXPECT_EQ(Sondear(), 1) << "a first iteration without end";
+    EXPECT_EQ(Salir, 1);
+    Salir                       = 0;
+    TipoJuego.Nodos             = 4096;
     TipoJuego.ProfundidadActual = 2;
     pv_line_fin[0]              = 0;
     EXPECT_EQ(Sondear(), 0) << "no move yet";
