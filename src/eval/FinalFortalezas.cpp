@@ -42,6 +42,15 @@ bool EsPasado(const RegistroFinal& pos, int codigo, int peon) {
     return true;
 }
 
+// A single pawn one step from its corner, with a knight that can guard it but does not cover the corner.
+bool EsCaballoAtadoAlPeon(const RegistroFinal& pos, int rincon) {
+    const Saltos& saltos = SALTOS_CABALLO[static_cast<std::size_t>(rincon)];
+    for (int i = 0; i < saltos.Numero; ++i)
+        if (saltos.Casillas[i] == Una(pos, CABALLO_B)) return false;
+    return pos.Numero[CABALLO_B] == 1 && pos.Numero[ALFIL_B] == 0 && pos.Numero[PEON_B] == 1 &&
+           PasosHastaCoronar(Una(pos, PEON_B)) == 1;
+}
+
 // Worth of one side's pawns; a passed one counts half when the enemy bishop covers the square before it.
 int PeonesConAlfiles(const RegistroFinal& pos, int codigo, int valorPeon) {
     const bool fuerte     = codigo == PEON_B;
@@ -65,9 +74,7 @@ bool EsFortalezaPeonTorre(const RegistroFinal& pos) {
     const int rincon = Coronacion(peon);
     if (!EsColumnaTorre(peon) || DistanciaRey(Una(pos, REY_N), rincon) > 1) return false;
     if (!PeonesEnColumna(pos, Columna(peon)) || !AlfilesFueraDe(pos, rincon)) return false;
-    if (pos.Numero[CABALLO_B] == 0) return true;
-    return pos.Numero[CABALLO_B] == 1 && pos.Numero[ALFIL_B] == 0 && pos.Numero[PEON_B] == 1 &&
-           PasosHastaCoronar(peon) == 1;
+    return pos.Numero[CABALLO_B] == 0 || EsCaballoAtadoAlPeon(pos, rincon);
 }
 
 int EvaluarAlfilPeonContraMenor(const RegistroFinal& pos) {

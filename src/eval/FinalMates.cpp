@@ -14,6 +14,8 @@ constexpr int PESO_BORDE  = 10;
 constexpr int PESO_REYES  = 6;
 constexpr int PESO_AVANCE = 8;
 
+constexpr int PESO_CABALLO = 2;  // the knight towards the king, when it mates with the bishop
+
 constexpr int BASE_VENTAJA = 150;  // what a decisive advantage is worth beyond its material
 
 constexpr int DISTANCIA_MAX = 7;
@@ -24,14 +26,14 @@ constexpr int DISTANCIA_MAX = 7;
 // clang-format off
 constexpr int RINCON_CABALLO_ALFIL[64] = {  // centipawns
 //    a    b    c    d    e    f    g    h
-    200, 180, 160, 140, 120, 100,  90,  80,   // 8
-    180, 160, 130, 110,  90,  70,  60,  90,   // 7
-    160, 130,  80,  60,  50,  40,  70, 100,   // 6
-    140, 110,  60,  20,  10,  50,  90, 120,   // 5
-    120,  90,  50,  10,  20,  60, 110, 140,   // 4
-    100,  70,  40,  50,  60,  80, 130, 160,   // 3
-     90,  60,  70,  90, 110, 130, 160, 180,   // 2
-     80,  90, 100, 120, 140, 160, 180, 200};  // 1
+    100,  90,  80,  70,  60,  50,  45,  40,   // 8
+     90,  80,  65,  55,  45,  35,  30,  45,   // 7
+     80,  65,  40,  30,  25,  20,  35,  50,   // 6
+     70,  55,  30,  10,   5,  25,  45,  60,   // 5
+     60,  45,  25,   5,  10,  30,  55,  70,   // 4
+     50,  35,  20,  25,  30,  40,  65,  80,   // 3
+     45,  30,  35,  45,  55,  65,  80,  90,   // 2
+     40,  45,  50,  60,  70,  80,  90, 100};  // 1
 // clang-format on
 
 struct RecuentoFuerte {
@@ -72,11 +74,12 @@ int PuntosVictoria(const RegistroFinal& pos, int progreso) {
 }
 
 int ProgresoCaballoAlfil(const RegistroFinal& pos) {
+    const int rey    = Una(pos, REY_B);
     const int debil  = Una(pos, REY_N);
     const int espejo = ColorCasilla(Una(pos, ALFIL_B)) == ColorCasilla(0) ? 0 : 7;
     return RINCON_CABALLO_ALFIL[static_cast<std::size_t>(debil ^ espejo)] +
-           PESO_REYES * (DISTANCIA_MAX - DistanciaRey(Una(pos, REY_B), debil)) -
-           DistanciaRey(Una(pos, CABALLO_B), debil);
+           PESO_REYES * (DISTANCIA_MAX - DistanciaRey(rey, debil)) - LejosDelCentro(rey) -
+           PESO_CABALLO * DistanciaRey(Una(pos, CABALLO_B), debil);
 }
 
 // Some pawn would win if the others and the pieces were not there.

@@ -61,9 +61,11 @@ bool EsTorreAtadaAlPeon(const TorrePeon& t) {
            Rango(t.TorreDebil) <= 3 && Columna(t.ReyDebil) >= 6 && Rango(t.ReyDebil) == 7;
 }
 
+// The king before its pawn leaves by a bridge, because the rook on the next file keeps the other king away.
 bool EsLucena(const TorrePeon& t) {
+    const int lado = Columna(t.ReyDebil) > Columna(t.Peon) ? 1 : -1;
     return Rango(t.Peon) == 7 && Columna(t.Peon) != 0 && t.Rey == t.Meta &&
-           Absoluto(Columna(t.ReyDebil) - Columna(t.Peon)) >= 2 && Absoluto(Columna(t.Torre) - Columna(t.Peon)) >= 1;
+           (Columna(t.ReyDebil) - Columna(t.Peon)) * lado >= 2 && Columna(t.Torre) == Columna(t.Peon) + lado;
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -15,8 +16,8 @@ namespace {
 
 constexpr int ESTADOS = 64 * 64 * 64;
 
-int Indice(int blanco, int pieza, int negro) {
-    return (blanco * 64 + pieza) * 64 + negro;
+std::size_t Indice(int blanco, int pieza, int negro) {
+    return static_cast<std::size_t>((blanco * 64 + pieza) * 64 + negro);
 }
 
 // Whether the man (P, R or Q) on casilla attacks otra, with the white king as the only obstacle.
@@ -35,8 +36,8 @@ bool Ataca(char tipo, int casilla, int otra, int blanco) {
 
 struct Solucion {
     char              Tipo;
-    std::vector<bool> GananBlancas  = std::vector<bool>(ESTADOS);  // White to move
-    std::vector<bool> PierdenNegras = std::vector<bool>(ESTADOS);  // Black to move
+    std::vector<char> GananBlancas  = std::vector<char>(ESTADOS);  // White to move
+    std::vector<char> PierdenNegras = std::vector<char>(ESTADOS);  // Black to move
 };
 
 bool Posible(int blanco, int pieza, int negro) {
@@ -89,12 +90,12 @@ bool GananBlancas(const Solucion& s, const std::vector<const Solucion*>& promoci
 }
 
 bool Mejorar(Solucion& s, const std::vector<const Solucion*>& promociones, int blanco, int pieza, int negro) {
-    const auto indice = static_cast<std::size_t>(Indice(blanco, pieza, negro));
+    const auto indice = Indice(blanco, pieza, negro);
     const bool ganan  = !s.GananBlancas[indice] && !Ataca(s.Tipo, pieza, negro, blanco) &&
                        GananBlancas(s, promociones, blanco, pieza, negro);
     const bool pierden = !s.PierdenNegras[indice] && PierdenNegras(s, blanco, pieza, negro);
-    if (ganan) s.GananBlancas[indice] = true;
-    if (pierden) s.PierdenNegras[indice] = true;
+    if (ganan) s.GananBlancas[indice] = 1;
+    if (pierden) s.PierdenNegras[indice] = 1;
     return ganan || pierden;
 }
 
@@ -127,7 +128,7 @@ TEST(FinalKpk, CoincideConLaFuerzaBrutaEnTodasLasPosiciones) {
     for (int casilla = 8; casilla < 56; ++casilla)
         for (int blanco = 0; blanco < 64; ++blanco)
             for (int negro = 0; negro < 64; ++negro) {
-                const auto indice = static_cast<std::size_t>(Indice(blanco, casilla, negro));
+                const auto indice = Indice(blanco, casilla, negro);
                 diferencias += KpkGana(blanco, casilla, negro, true) != static_cast<int>(peon.GananBlancas[indice]);
                 diferencias += KpkGana(blanco, casilla, negro, false) != static_cast<int>(peon.PierdenNegras[indice]);
             }
