@@ -30,7 +30,7 @@ constexpr std::array<std::array<std::uint64_t, DIRECCIONES>, 64> CalcularRayos()
     for (unsigned casilla = 0; casilla < 64; ++casilla)
         for (unsigned dir = 0; dir < DIRECCIONES; ++dir)
             for (int paso = 1; paso <= ALCANCE[casilla][dir]; ++paso)
-                tabla[casilla][dir] |= std::uint64_t{1} << (static_cast<int>(casilla) + paso * PASO[dir]);
+                tabla[casilla][dir] |= std::uint64_t{1} << ((static_cast<int>(casilla) + paso * PASO[dir]) & 63);
     return tabla;
 }
 constexpr auto RAYOS = CalcularRayos();
