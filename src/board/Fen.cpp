@@ -18,10 +18,6 @@ constexpr char NOMBRES_CASILLAS[64][3] = {
     // clang-format on
 };
 
-const char* NombreCasilla(int casilla) {
-    return NOMBRES_CASILLAS[casilla];
-}
-
 // The piece code of a FEN letter, VACIO when it is none.
 static int PiezaDeLetra(char letra) {
     constexpr char LETRAS[] = "PNBRQK";

@@ -4,6 +4,3 @@
 // Fills TableroGlobal and adds to the piece counters, which the caller has cleared. Returns 1, or 0 for a
 // malformed board text, with the position half filled. Rights, kings and the en-passant square are taken as given.
 int CargarFen(const char* texto);
-
-// Name of a square ("a8" .. "h1"), two characters.
-const char* NombreCasilla(int casilla);

@@ -1,7 +1,6 @@
 // Whether the table files can be handed to the probing library.
 #pragma once
 
-constexpr int HOMBRES_TABLA_MIN = 3;
 constexpr int HOMBRES_TABLA_MAX = 5;  // both kings included
 
 // Looks at the head of every table file that the library would read. The library itself trusts the block index of
