@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cinttypes>
-#include <cstdio>
 #include <limits>
 
 #include "board/Ataques.h"
@@ -11,6 +10,7 @@
 #include "board/HacerMovimiento.h"
 #include "board/Palabras.h"
 #include "plataforma/Reloj.h"
+#include "plataforma/Salida.h"
 
 RegistroPerft ContadorPerft;
 
@@ -91,18 +91,18 @@ void Perft(const char* texto) {
     ListaJugadas(TipoJuego.ProfundidadLimite);
     TipoJuego.TiempoTranscurrido = ObtenerMilisegundos() - inicio + 1;
 
-    std::printf("Nodos: %" PRIu64 "\n", c.Nodos);
-    std::printf("Capturas: %d\n", c.Capturas);
-    std::printf("Captura Ep: %d\n", c.CapturasAlPaso);
-    std::printf("Coronacion: %d\n", c.Coronaciones);
-    std::printf("Enroques: %d\n", c.Enroques);
-    std::printf("Tiempo(ms): %" PRIu64 "\n", ObtenerMilisegundos() - inicio);
-    std::printf("Nps: %d\n", NodosPorSegundo(c.Nodos, TipoJuego.TiempoTranscurrido));
-    std::printf("Divide\n------------------------------\n");
+    Imprimir("Nodos: %" PRIu64 "\n", c.Nodos);
+    Imprimir("Capturas: %d\n", c.Capturas);
+    Imprimir("Captura Ep: %d\n", c.CapturasAlPaso);
+    Imprimir("Coronacion: %d\n", c.Coronaciones);
+    Imprimir("Enroques: %d\n", c.Enroques);
+    Imprimir("Tiempo(ms): %" PRIu64 "\n", ObtenerMilisegundos() - inicio);
+    Imprimir("Nps: %d\n", NodosPorSegundo(c.Nodos, TipoJuego.TiempoTranscurrido));
+    Imprimir("Divide\n------------------------------\n");
     for (int i = 0; i < c.NumeroJugadas; ++i) {
         if (c.Jugadas[i].Hojas == 0) continue;
         char coordenadas[6];
         MovimientoCoordenadas(c.Jugadas[i].Movimiento, coordenadas);
-        std::printf("%s: %d\n", coordenadas, c.Jugadas[i].Hojas);
+        Imprimir("%s: %d\n", coordenadas, c.Jugadas[i].Hojas);
     }
 }

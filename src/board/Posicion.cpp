@@ -1,7 +1,6 @@
 #include "board/Posicion.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstring>
 
 #include "board/Bando.h"
@@ -12,6 +11,7 @@
 #include "board/Palabras.h"
 #include "board/Zobrist.h"
 #include "book/LibroSql.h"
+#include "plataforma/Salida.h"
 
 constexpr std::size_t FEN_MAX = 79;  // a word that would make the collected FEN this long or longer is dropped
 
@@ -22,12 +22,12 @@ constexpr int KEYS_CONSERVADAS = 300;
 
 static void ImprimirMovimientoIlegal(const char* texto) {
     const RegistroTablero& t = TableroGlobal;
-    std::printf("info string Movimiento ilegal: %s\n", texto);
-    std::printf("info string Enroque Blancas: %d\n", t.EnroqueBlancas);
-    std::printf("info string Enroque Negras: %d\n", t.EnroqueNegras);
-    std::printf("info string Ficha al Paso: %d\n", t.FichaAlPaso);
-    std::printf("info string Posici\363n Rey Blanco: %d\n", t.PosicionReyBlanco);
-    std::printf("info string Posici\363n Rey Negro: %d\n", t.PosicionReyNegro);
+    Imprimir("info string Movimiento ilegal: %s\n", texto);
+    Imprimir("info string Enroque Blancas: %d\n", t.EnroqueBlancas);
+    Imprimir("info string Enroque Negras: %d\n", t.EnroqueNegras);
+    Imprimir("info string Ficha al Paso: %d\n", t.FichaAlPaso);
+    Imprimir("info string Posici\363n Rey Blanco: %d\n", t.PosicionReyBlanco);
+    Imprimir("info string Posici\363n Rey Negro: %d\n", t.PosicionReyNegro);
 }
 
 // The pseudo-legal move with this text, 0 when there is none.
@@ -110,7 +110,7 @@ int Position_Fen_Startpos(const char* texto) {
         texto                 = ReunirFen(texto, palabra, fen);
         AbandonarLibro();
         if (!CargarFen(fen)) {
-            std::printf("info string Formato FEN incorrecto.\n");
+            Imprimir("info string Formato FEN incorrecto.\n");
             return Position_Fen_Startpos(FEN_INICIAL);
         }
     } else {

@@ -12,6 +12,7 @@
 #include "board/HacerMovimiento.h"
 #include "book/BaseDeDatos.h"
 #include "book/LibroSql.h"
+#include "plataforma/Salida.h"
 
 constexpr int         FILAS_MAX     = 15;  // lines among which one is chosen
 constexpr std::size_t LETRAS_JUGADA = 4;
@@ -59,8 +60,8 @@ static int LeerFilas(FilaLibro* filas) {
         std::memcpy(filas[numero++].Texto, texto, std::min<std::size_t>(std::strlen(texto), LINEA_LIBRO_MAX));
     }
     if (codigo == SQLITE_DONE) return numero;
-    std::printf("Error en el libro de apertura.\n");
-    std::printf("C\363digo de error: %d\n", codigo);
+    Imprimir("Error en el libro de apertura.\n");
+    Imprimir("C\363digo de error: %d\n", codigo);
     return 0;
 }
 
@@ -108,7 +109,7 @@ int BuscarJugadaLibro() {
     if (AbrirBaseDeDatos(PLAZO_CONSULTA) != 0)
         hallada = ElegirJugada();
     else
-        std::printf("Libro de apertura cargado: No.\n");
+        Imprimir("Libro de apertura cargado: No.\n");
     CerrarBaseDeDatos();
     LibroSql.Terminado = hallada ? 0 : 1;
     return hallada ? 1 : 0;

@@ -10,15 +10,16 @@
 #include "book/BaseDeDatos.h"
 #include "book/Libro.h"
 #include "book/LibroSql.h"
+#include "plataforma/Salida.h"
 
 constexpr std::uint32_t FILAS_VERIFICADAS = 2147483649;
 constexpr std::size_t   PRIMERA_JUGADA    = 4;    // characters taken of the first move of a row
 constexpr int           LINEA_INCORRECTA  = 100;  // reported where no code of SQLite applies; also its SQLITE_ROW
 
 static void ImprimirError(int codigo, const char* fila) {
-    std::printf("Error en el libro de apertura.\n");
-    std::printf("C\363digo de error: %d\n", codigo);
-    std::printf("Apertura incorrecta en: %s\n", fila);
+    Imprimir("Error en el libro de apertura.\n");
+    Imprimir("C\363digo de error: %d\n", codigo);
+    Imprimir("Apertura incorrecta en: %s\n", fila);
 }
 
 // Plays the first letras characters of the text and returns what follows the character behind them.
@@ -55,15 +56,15 @@ static void VerificarFilas() {
         break;
     }
     if (codigo == SQLITE_DONE)
-        std::printf("Libro de apertura correcto.\n");
+        Imprimir("Libro de apertura correcto.\n");
     else
         ImprimirError(codigo, copia);
 }
 
 void VerificarLibroApertura() {
-    std::printf("Analizando libro de aperturas...\n");
+    Imprimir("Analizando libro de aperturas...\n");
     if (AbrirBaseDeDatos(PLAZO_VERIFICACION) == 0) {
-        std::printf("Libro de apertura cargado: No.\n");
+        Imprimir("Libro de apertura cargado: No.\n");
         AbandonarLibro();
         CerrarBaseDeDatos();
         return;
@@ -72,7 +73,7 @@ void VerificarLibroApertura() {
     if (codigo == SQLITE_OK)
         VerificarFilas();
     else if (codigo == SQLITE_ERROR || codigo == SQLITE_NOTADB || codigo == SQLITE_CORRUPT)
-        std::printf("Error: Libro de aperturas corrupto.\n");
+        Imprimir("Error: Libro de aperturas corrupto.\n");
     else
         ImprimirError(codigo, "");
     CerrarBaseDeDatos();

@@ -6,6 +6,7 @@
 #include "board/EstadoMotor.h"
 #include "board/Jugada.h"
 #include "plataforma/Reloj.h"
+#include "plataforma/Salida.h"
 #include "search/LineaPrincipal.h"
 #include "search/Puntuacion.h"
 #include "search/Transposicion.h"
@@ -75,18 +76,18 @@ void ImprimirPv(int profundidad, int* impresa, int puntos, int etiqueta) {
     char                valor[TEXTO_PUNTOS];
     const int           longitud = TextoPv(linea);
     TextoPuntos(puntos, etiqueta, valor);
-    std::printf("info depth %d seldepth %d time %" PRIu64 " nodes %" PRIu64 " nps %" PRIu64 " tbhits %" PRIu64
-                " hashfull %d score %s pv %s\n",
-                profundidad, longitud, tiempo, TipoJuego.Nodos, NodosPorSegundo(tiempo), tbprobe_Gaviota.tbhits,
-                Hashfull(), valor, linea);
+    Imprimir("info depth %d seldepth %d time %" PRIu64 " nodes %" PRIu64 " nps %" PRIu64 " tbhits %" PRIu64
+             " hashfull %d score %s pv %s\n",
+             profundidad, longitud, tiempo, TipoJuego.Nodos, NodosPorSegundo(tiempo), tbprobe_Gaviota.tbhits,
+             Hashfull(), valor, linea);
 }
 
 void ImprimirMovimientoRaiz(std::uint32_t movimiento, int numero) {
     char texto[COORDENADAS_MAX];
     MovimientoCoordenadas(movimiento, texto);
     const std::uint64_t tiempo = ActualizarTiempo();
-    std::printf("info currmove %s currmovenumber %d nodes %" PRIu64 " nps %" PRIu64 " hashfull %d\n", texto, numero,
-                TipoJuego.Nodos, NodosPorSegundo(tiempo), Hashfull());
+    Imprimir("info currmove %s currmovenumber %d nodes %" PRIu64 " nps %" PRIu64 " hashfull %d\n", texto, numero,
+             TipoJuego.Nodos, NodosPorSegundo(tiempo), Hashfull());
 }
 
 void ImprimirMejorMovimiento(std::uint32_t mejor, std::uint32_t ponder) {
@@ -94,9 +95,9 @@ void ImprimirMejorMovimiento(std::uint32_t mejor, std::uint32_t ponder) {
     char espera[COORDENADAS_MAX];
     if (mejor != 0) MovimientoCoordenadas(mejor, texto);
     if (mejor == 0 || ponder == 0) {
-        std::printf("bestmove %s\n", texto);
+        Imprimir("bestmove %s\n", texto);
         return;
     }
     MovimientoCoordenadas(ponder, espera);
-    std::printf("bestmove %s ponder %s\n", texto, espera);
+    Imprimir("bestmove %s ponder %s\n", texto, espera);
 }

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdio>
 #include <limits>
 
 #include "board/EstadoMotor.h"
 #include "plataforma/Memoria.h"
+#include "plataforma/Salida.h"
 #include "search/Puntuacion.h"
 
 RegistroTT_Opciones TT_Opciones;
@@ -97,7 +97,7 @@ void CrearTransposicion(int megas) {
     TT_Datos = static_cast<CuboTransposicion*>(ReservarMemoria(BytesDatos));
     if (BytesCache != 0) TT_Cache = static_cast<EntradaCache*>(ReservarMemoria(BytesCache));
     if (TT_Datos == nullptr || (BytesCache != 0 && TT_Cache == nullptr)) {
-        std::printf("info string Memoria insuficiente para la tabla hash.\n");
+        Imprimir("info string Memoria insuficiente para la tabla hash.\n");
         LiberarTransposicion();
         Salir = 1;
     }

@@ -1,10 +1,10 @@
 #include "tablebases/Gaviota.h"
 
-#include <cstdio>
 #include <cstring>
 
 #include "plataforma/Biblioteca.h"
 #include "plataforma/NombreGaviota.h"
+#include "plataforma/Salida.h"
 #include "tablebases/GaviotaEntradas.h"
 #include "tablebases/GaviotaTablas.h"
 
@@ -57,23 +57,23 @@ static void IniciarBiblioteca() {
     gtb::tb_restart(g.Verbosidad, g.Compresion, g.ListaRutas);
     gtb::tbcache_restart(cache_octetos, g.FraccionWdl);
     const char* const mensaje = gtb::tb_init(g.Verbosidad, g.Compresion, g.ListaRutas);
-    if (mensaje != nullptr) std::printf("%s\n", mensaje);
+    if (mensaje != nullptr) Imprimir("%s\n", mensaje);
     gtb::tbcache_init(cache_octetos, g.FraccionWdl);
     gtb::tbstats_reset();
 }
 
 static void ImprimirEstado() {
-    std::printf("Initialized: %s\n\n", gtb::tb_is_initialized() != 0 ? "Ok" : "FAILED");
-    std::printf("State cache: %s\n\n", gtb::tbcache_is_on() != 0 ? "Ok" : "FAILED");
+    Imprimir("Initialized: %s\n\n", gtb::tb_is_initialized() != 0 ? "Ok" : "FAILED");
+    Imprimir("State cache: %s\n\n", gtb::tbcache_is_on() != 0 ? "Ok" : "FAILED");
 }
 
 static void ImprimirDisponibilidad(int hombres, int hay, int todas) {
     if ((tbprobe_Gaviota.Disponibilidad & hay) == 0) {
-        std::printf("No %d-pc TBs available\n", hombres);
+        Imprimir("No %d-pc TBs available\n", hombres);
         return;
     }
-    std::printf("%d-pc TBs available\n", hombres);
-    if ((tbprobe_Gaviota.Disponibilidad & todas) != 0) std::printf("%d-pc TBs complete\n", hombres);
+    Imprimir("%d-pc TBs available\n", hombres);
+    if ((tbprobe_Gaviota.Disponibilidad & todas) != 0) Imprimir("%d-pc TBs complete\n", hombres);
 }
 
 void Cargar_gtbgaviota_dll() {
@@ -81,7 +81,7 @@ void Cargar_gtbgaviota_dll() {
     CargarFichero();
     g.Cargada = gtb_hmod != nullptr && BuscarEntradas(gtb_hmod) == 1 ? 1 : 0;
     if (g.Cargada == 0) {
-        std::printf("info string Error loading dll library %s.\n", NOMBRE_BIBLIOTECA);
+        Imprimir("info string Error loading dll library %s.\n", NOMBRE_BIBLIOTECA);
         return;
     }
     IniciarBiblioteca();
@@ -103,7 +103,7 @@ int Descargar_gtbgaviota_dll() {
         g.ListaRutas = gtb::tbpaths_done(g.ListaRutas);
     }
     if (LiberarBiblioteca(gtb_hmod) == 0) {
-        std::printf("info string Error: Liberar tabla de finales gaviota.\n");
+        Imprimir("info string Error: Liberar tabla de finales gaviota.\n");
         return 0;
     }
     gtb_hmod = nullptr;

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <initializer_list>
 
+#include "plataforma/Salida.h"
 #include "tablebases/Gaviota.h"
 
 // A compressed table starts with ten words of 32 bits, low byte first. Right behind them stands the index: where
@@ -78,7 +79,7 @@ static void ComprobarTabla(BusquedaTablas& b, std::initializer_list<char> piezas
     std::FILE* const tabla = AbrirTabla(b.Rutas, nombre);
     if (tabla == nullptr) return;
     if (b.Compresion > COMPRESION_MAX || !EsIndiceSano(tabla)) {
-        std::printf("info string Error: Tabla de finales gaviota ilegible: %s\n", nombre);
+        Imprimir("info string Error: Tabla de finales gaviota ilegible: %s\n", nombre);
         if (b.HombresSanos >= hombres) b.HombresSanos = hombres - 1;
     }
     std::fclose(tabla);

@@ -14,7 +14,7 @@
 
 void Arrancar(unsigned semilla) {
     Salir = 0;
-    std::setvbuf(stdout, nullptr, _IONBF, 0);  // each reply reaches the interface at once
+    std::setvbuf(stdout, nullptr, _IONBF, 0);  // for what the tablebase library may print itself
     std::setvbuf(stdin, nullptr, _IONBF, 0);
     Iniciar_Evaluacion();
     Iniciar_Busqueda();

@@ -2,12 +2,12 @@
 
 #include <cinttypes>
 #include <cstdint>
-#include <cstdio>
 
 #include "board/EstadoMotor.h"
 #include "board/Posicion.h"
 #include "plataforma/Entrada.h"
 #include "plataforma/Reloj.h"
+#include "plataforma/Salida.h"
 #include "search/Buscar.h"
 #include "uci/UciNewGame.h"
 
@@ -88,11 +88,11 @@ int EjecutarBanco(int profundidad) {
     int      numero = 0;
     for (const char* posicion : POSICIONES) {
         const Recuento recuento = BuscarPosicion(posicion, profundidad);
-        std::printf("%2d %10" PRIu64 "  %s\n", ++numero, recuento.Nodos, posicion);
+        Imprimir("%2d %10" PRIu64 "  %s\n", ++numero, recuento.Nodos, posicion);
         total.Nodos += recuento.Nodos;
         total.Tiempo += recuento.Tiempo;
         if (Salir != 0) return 0;
     }
-    std::printf("%" PRIu64 " nodes %" PRIu64 " nps\n", total.Nodos, total.Nodos * 1000 / total.Tiempo);
+    Imprimir("%" PRIu64 " nodes %" PRIu64 " nps\n", total.Nodos, total.Nodos * 1000 / total.Tiempo);
     return 1;
 }

@@ -5,6 +5,7 @@
 #include "board/EstadoMotor.h"
 #include "plataforma/Entrada.h"
 #include "plataforma/Reloj.h"
+#include "plataforma/Salida.h"
 #include "search/LineaPrincipal.h"
 
 constexpr std::uint64_t NODOS_POR_SONDEO = 2048;  // a power of two
@@ -36,7 +37,7 @@ static void Entrada_StdIn() {
 // Called at every node, so the common path is this one test; clock and input wait for one node in 2048.
 void ComprobarTiempo() {
     if ((TipoJuego.Nodos & (NODOS_POR_SONDEO - 1)) != 0) return;
-    if (NoTieneFin()) Salir = 1;
+    if (NoTieneFin() || SalidaPerdida() != 0) Salir = 1;
     if (Salir != 0 || SeAcaboElTiempo()) TipoJuego.Parar = 1;
     Entrada_StdIn();
 }

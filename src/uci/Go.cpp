@@ -1,6 +1,5 @@
 #include "uci/Go.h"
 
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
@@ -11,6 +10,7 @@
 #include "book/Libro.h"
 #include "book/LibroSql.h"
 #include "plataforma/Reloj.h"
+#include "plataforma/Salida.h"
 #include "search/Buscar.h"
 
 constexpr int JUGADAS_PREVISTAS = 130;  // plies after which a game on one clock is expected to end
@@ -139,8 +139,8 @@ LimitesBusqueda CalcularLimites(const ParametrosGo& p, int turno, int jugadas) {
 
 static int ResponderConLibro() {
     if (LibroSql.Terminado != 0 || LibroSql.OwnBook == 0 || BuscarJugadaLibro() == 0) return 0;
-    std::printf("bestmove %s\n", LibroSql.Movimiento);
-    std::printf("info string Libro de aperturas.\n");
+    Imprimir("bestmove %s\n", LibroSql.Movimiento);
+    Imprimir("info string Libro de aperturas.\n");
     return 1;
 }
 

@@ -1,6 +1,5 @@
 #include "uci/LeerComandos.h"
 
-#include <cstdio>
 #include <cstring>
 
 #include "board/EstadoMotor.h"
@@ -10,6 +9,7 @@
 #include "book/Libro.h"
 #include "book/LibroSql.h"
 #include "plataforma/Entrada.h"
+#include "plataforma/Salida.h"
 #include "search/Transposicion.h"
 #include "tablebases/Gaviota.h"
 #include "uci/Go.h"
@@ -24,18 +24,18 @@ static void ComandoUciNewGame(const char* /*resto*/) {
 
 // OwnBook is only offered as on while the book can be opened.
 static void ComandoUci(const char* /*resto*/) {
-    std::printf("id name Tamrek 0.6 x64\n");
-    std::printf("id author Ferlo Quent, Spain.\n");
+    Imprimir("id name Tamrek 0.6 x64\n");
+    Imprimir("id author Ferlo Quent, Spain.\n");
     if (LibroSql.OwnBook != 0) LibroSql.OwnBook = ComprobarAccesoLibro();
     LimpiarLineaLibro();
     ImprimirOpciones();
-    std::printf("uciok\n");
+    Imprimir("uciok\n");
 }
 
 static void ComandoIsReady(const char* /*resto*/) {
     ActualizarGaviota();
     CrearTransposicion(HashTotal());
-    std::printf("readyok\n");
+    Imprimir("readyok\n");
 }
 
 static void ComandoPosition(const char* resto) {
@@ -84,5 +84,6 @@ void LeerComandos() {
             Salir = 1;
         else
             EjecutarLinea(linea);
+        if (SalidaPerdida() != 0) Salir = 1;
     }
 }

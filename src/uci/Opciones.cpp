@@ -7,6 +7,7 @@
 #include "board/EstadoMotor.h"
 #include "board/Palabras.h"
 #include "book/LibroSql.h"
+#include "plataforma/Salida.h"
 #include "search/Transposicion.h"
 #include "tablebases/Gaviota.h"
 
@@ -38,17 +39,17 @@ static const char* TextoLogico(int valor) {
 }
 
 void ImprimirOpciones() {
-    std::printf("option name Hash type spin default %d min 1 max %d\n", HashTotal(), HASH_MAX);
-    std::printf("option name OwnBook type check default %s\n", TextoLogico(LibroSql.OwnBook));
-    std::printf("option name OwnBookLimit type spin default %d min %d max %d\n", LibroSql.OwnBookLimit,
-                LIMITE_LIBRO_MIN, LIMITE_LIBRO_MAX);
-    std::printf("option name ShowPv type combo default %s var None var Middle var Full\n",
-                NOMBRE_SHOWPV[TipoJuego.ShowPv]);
-    std::printf("option name GaviotaTbUse type check default %s\n", TextoLogico(tbprobe_Gaviota.Usar));
-    std::printf("option name GaviotaTbPath type string default %s\n", tbprobe_Gaviota.Ruta);
-    std::printf("option name GaviotaTbCache type spin default %d min 8 max 1024\n", tbprobe_Gaviota.Cache);
-    std::printf("option name GaviotaTbCompression type spin default %d min 0 max %d\n", tbprobe_Gaviota.Compresion,
-                TB_COMPRESION_MAX);
+    Imprimir("option name Hash type spin default %d min 1 max %d\n", HashTotal(), HASH_MAX);
+    Imprimir("option name OwnBook type check default %s\n", TextoLogico(LibroSql.OwnBook));
+    Imprimir("option name OwnBookLimit type spin default %d min %d max %d\n", LibroSql.OwnBookLimit, LIMITE_LIBRO_MIN,
+             LIMITE_LIBRO_MAX);
+    Imprimir("option name ShowPv type combo default %s var None var Middle var Full\n",
+             NOMBRE_SHOWPV[TipoJuego.ShowPv]);
+    Imprimir("option name GaviotaTbUse type check default %s\n", TextoLogico(tbprobe_Gaviota.Usar));
+    Imprimir("option name GaviotaTbPath type string default %s\n", tbprobe_Gaviota.Ruta);
+    Imprimir("option name GaviotaTbCache type spin default %d min 8 max 1024\n", tbprobe_Gaviota.Cache);
+    Imprimir("option name GaviotaTbCompression type spin default %d min 0 max %d\n", tbprobe_Gaviota.Compresion,
+             TB_COMPRESION_MAX);
 }
 
 // --- "setoption" ---
@@ -154,5 +155,5 @@ void ParseSetoption(const char* texto) {
     if (*valor == '\0') valor = "empty";
     for (const EntradaOpcion& opcion : OPCIONES)
         if (std::strcmp(nombre, opcion.Nombre) == 0 && opcion.Fijar(valor) == 0)
-            std::printf("info string Valor incorrecto para %s.\n", opcion.Nombre);
+            Imprimir("info string Valor incorrecto para %s.\n", opcion.Nombre);
 }

@@ -74,6 +74,13 @@ public:
         waitpid(Proceso, &estado, 0);
         return estado == 0 ? Recibido : Recibido + "wait status " + std::to_string(estado);
     }
+    // Closes the program's output unread; true when the program then ends although its input stays open.
+    bool TerminaSinLector() {
+        close(DesdeMotor);
+        for (int i = 0; i < 200; ++i, usleep(100000))
+            if (waitpid(Proceso, nullptr, WNOHANG) == Proceso) return true;
+        return false;
+    }
 
 private:
     pid_t       Proceso    = -1;

@@ -22,6 +22,15 @@ TEST(Sondeo, StopParaYNingunByteSePierde) {
     EXPECT_EQ(motor.Terminar(), "");
 }
 
+// The parent has left SIGPIPE ignored, as the program inherits it from this one.
+TEST(Sondeo, SinLectorTermina) {
+    for (const char* orden : {"go infinite\n", "uci\n"}) {
+        Motor motor;
+        motor.Enviar(LARGA + orden);
+        EXPECT_TRUE(motor.TerminaSinLector()) << orden;
+    }
+}
+
 struct CasoTiempo {
     const char* texto;
     int         minimo;  // milliseconds
