@@ -11,9 +11,9 @@
 constexpr std::uint64_t NODOS_POR_SONDEO = 2048;  // a power of two
 constexpr int           LINEA_SONDEO     = 80;    // longest line a poll reads, terminating '\0' included
 
-// The first iteration of any position that a game can reach takes some thousand nodes. Boards full of queens never
-// end it; neither the clock nor the end of the input may cut it, so the engine gives up as on an inconsistency.
-constexpr std::uint64_t NODOS_PRIMERA_ITERACION = 10000000;
+// Boards full of queens hardly ever end their first iteration, which neither the clock nor the end of the input may
+// cut. "stop" does; when the input has ended nobody can send it, and after so many nodes (minutes) the search gives up.
+constexpr std::uint64_t NODOS_SIN_MANDO = 1'000'000'000;
 
 static_assert((NODOS_POR_SONDEO & (NODOS_POR_SONDEO - 1)) == 0);
 
@@ -24,20 +24,22 @@ static bool SeAcaboElTiempo() {
 }
 
 static bool NoTieneFin() {
-    return TipoJuego.ProfundidadActual == 1 && TipoJuego.Nodos >= NODOS_PRIMERA_ITERACION;
+    return TipoJuego.ProfundidadActual == 1 && TipoJuego.Nodos >= NODOS_SIN_MANDO;
 }
 
-// Consumes one waiting line. Only "stop" means anything during a search.
-static void Entrada_StdIn() {
+// Consumes one waiting line. Only "stop" means anything during a search. Returns false when the input has ended.
+static bool Entrada_StdIn() {
     char linea[LINEA_SONDEO];
-    if (HayLinea(LINEA_SONDEO) == 0 || LeerLinea(linea, LINEA_SONDEO) == 0) return;
+    if (HayLinea(LINEA_SONDEO) == 0) return true;
+    if (LeerLinea(linea, LINEA_SONDEO) == 0) return false;
     if (std::strcmp(linea, "stop") == 0) TipoJuego.Parar = 1;
+    return true;
 }
 
 // Called at every node, so the common path is this one test; clock and input wait for one node in 2048.
 void ComprobarTiempo() {
     if ((TipoJuego.Nodos & (NODOS_POR_SONDEO - 1)) != 0) return;
-    if (NoTieneFin() || SalidaPerdida() != 0) Salir = 1;
+    if (SalidaPerdida() != 0) Salir = 1;
     if (Salir != 0 || SeAcaboElTiempo()) TipoJuego.Parar = 1;
-    Entrada_StdIn();
+    if (!Entrada_StdIn() && NoTieneFin()) TipoJuego.Parar = 1;
 }

@@ -40,10 +40,9 @@ TEST(ComprobarTiempo, ParaConTodasLasCondiciones) {
     TipoJuego.Nodos             = 4096;
     TipoJuego.ProfundidadActual = 1;
     EXPECT_EQ(Sondear(), 0) << "first iteration";
-    TipoJuego.Nodos = 1U << 24;
-    EXPECT_EQ(Sondear(), 1) << "a first iteration without end";
-    EXPECT_EQ(Salir, 1);
-    Salir                       = 0;
+    TipoJuego.Nodos = 1U << 31;
+    EXPECT_EQ(Sondear(), 0) << "first iteration, however long it takes";
+    EXPECT_EQ(Sondear("stop\n"), 1);
     TipoJuego.Nodos             = 4096;
     TipoJuego.ProfundidadActual = 2;
     pv_line_fin[0]              = 0;
@@ -64,4 +63,21 @@ TEST(ComprobarTiempo, SoloStopParaYCadaSondeoConsumeUnaLinea) {
     EXPECT_EQ(Sondear(), 0) << "uci";
     EXPECT_EQ(Sondear(), 0) << "half a line";
     EXPECT_EQ(Sondear("op\r\n"), 1);
+}
+
+TEST(ComprobarTiempo, SinEntradaSoloCedeLaPrimeraIteracionSinFin) {
+    PrepararBusqueda();
+    close(Tubo);
+    TipoJuego.LimiteTiempo = 0;
+    TipoJuego.Nodos        = 1U << 31;
+    ComprobarTiempo();
+    EXPECT_EQ(TipoJuego.Parar, 0);
+    TipoJuego.ProfundidadActual = 1;
+    TipoJuego.Nodos             = 1U << 29;
+    ComprobarTiempo();
+    EXPECT_EQ(TipoJuego.Parar, 0);
+    TipoJuego.Nodos = 1U << 31;
+    ComprobarTiempo();
+    EXPECT_EQ(TipoJuego.Parar, 1);
+    EXPECT_EQ(Salir, 0);
 }
