@@ -3,40 +3,42 @@
 #include <sqlite3.h>
 
 #include "book/LibroSql.h"
-#include "plataforma/Reloj.h"
 
 constexpr char NOMBRE_LIBRO[]   = "file:Book.db";
 constexpr int  MODO_APERTURA    = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_URI;
 constexpr char CONSULTA_TOTAL[] = "SELECT COUNT(Partida) FROM Book;";
 
-// SQLite looks at the clock between instructions of its machine only, so the texts that one instruction may work on
-// are short enough to keep each of them brief.
-constexpr int           INSTRUCCIONES_POR_CONTROL = 20;
-constexpr int           TEXTO_MAX                 = 1'000'000;           // bytes of a row
-constexpr int           PATRON_MAX                = CONSULTA_MAX;        // bytes of a pattern of LIKE
-constexpr sqlite3_int64 MEMORIA_MAX               = 64LL * 1024 * 1024;  // bytes; stops views that unfold without end
+// Work is counted in instructions of SQLite's machine and in bytes, of the pages it fetches and of the texts it
+// delivers. Each of the three is about the size of the file when a sane table is read once: the shortest row takes six
+// bytes and four instructions.
+constexpr sqlite3_int64 TRABAJO_POR_OCTETO        = 32;         // ten times that
+constexpr sqlite3_int64 TRABAJO_ESQUEMA           = 1'000'000;  // until the size of the file is known
+constexpr int           INSTRUCCIONES_POR_CONTROL = 1000;
+constexpr sqlite3_int64 MEMORIA_MAX               = 256LL << 20;  // bytes; room for any row that deserves the name
 
-static std::uint64_t TiempoRestante;  // milliseconds that SQLite may still work
-static std::uint64_t InicioPaso;      // tick count at the start of the current step
+static sqlite3_int64 Trabajo;  // done for the current statement
+static sqlite3_int64 TrabajoMax;
+static sqlite3_int64 OctetosPagina;
 
-static int PlazoAgotado(void*) {
-    return ObtenerMilisegundos() - InicioPaso > TiempoRestante ? 1 : 0;
+static sqlite3_int64 PaginasPedidas() {
+    int halladas = 0, leidas = 0, maximo = 0;
+    sqlite3_db_status(LibroSql.Conexion, SQLITE_DBSTATUS_CACHE_HIT, &halladas, &maximo, 1);
+    sqlite3_db_status(LibroSql.Conexion, SQLITE_DBSTATUS_CACHE_MISS, &leidas, &maximo, 1);
+    return sqlite3_int64{halladas} + leidas;
 }
 
-static void LimitarRecursos() {
-    sqlite3* conexion = LibroSql.Conexion;
-    sqlite3_hard_heap_limit64(MEMORIA_MAX);
-    sqlite3_limit(conexion, SQLITE_LIMIT_LENGTH, TEXTO_MAX);
-    sqlite3_limit(conexion, SQLITE_LIMIT_LIKE_PATTERN_LENGTH, PATRON_MAX);
-    sqlite3_db_config(conexion, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
-    sqlite3_progress_handler(conexion, INSTRUCCIONES_POR_CONTROL, PlazoAgotado, nullptr);
+static int TrabajoAgotado(void*) {
+    Trabajo += INSTRUCCIONES_POR_CONTROL + PaginasPedidas() * OctetosPagina;
+    return Trabajo > TrabajoMax ? 1 : 0;
 }
 
-int AbrirBaseDeDatos(int plazo) {
-    TiempoRestante = static_cast<std::uint64_t>(plazo);
-    InicioPaso     = ObtenerMilisegundos();
+int AbrirBaseDeDatos() {
+    Trabajo       = 0;
+    TrabajoMax    = TRABAJO_ESQUEMA;
+    OctetosPagina = 0;
     if (sqlite3_open_v2(NOMBRE_LIBRO, &LibroSql.Conexion, MODO_APERTURA, nullptr) != SQLITE_OK) return 0;
-    LimitarRecursos();
+    sqlite3_hard_heap_limit64(MEMORIA_MAX);
+    sqlite3_progress_handler(LibroSql.Conexion, INSTRUCCIONES_POR_CONTROL, TrabajoAgotado, nullptr);
     return 1;
 }
 
@@ -45,18 +47,41 @@ static void FinalizarSentencia() {
     LibroSql.Sentencia = nullptr;
 }
 
+// The number that a query of one answers, 0 when it fails.
+static sqlite3_int64 LeerNumero(const char* sql) {
+    sqlite3_int64 numero = 0;
+    if (sqlite3_prepare_v2(LibroSql.Conexion, sql, -1, &LibroSql.Sentencia, nullptr) == SQLITE_OK &&
+        sqlite3_step(LibroSql.Sentencia) == SQLITE_ROW)
+        numero = sqlite3_column_int64(LibroSql.Sentencia, 0);
+    FinalizarSentencia();
+    return numero;
+}
+
+// What a view or a generated column costs cannot be told from the size of the file, and a book has neither.
+static int ComprobarTabla() {
+    const int codigo = sqlite3_table_column_metadata(LibroSql.Conexion, nullptr, "Book", "Partida", nullptr, nullptr,
+                                                     nullptr, nullptr, nullptr);
+    if (codigo != SQLITE_OK) return codigo;
+    const bool sencilla = LeerNumero("SELECT COUNT(*) FROM pragma_table_xinfo('Book') WHERE hidden <> 0") == 0;
+    return sencilla ? SQLITE_OK : SQLITE_ERROR;
+}
+
 int PrepararConsulta(const char* sql) {
     FinalizarSentencia();
-    InicioPaso = ObtenerMilisegundos();
+    const int codigo = ComprobarTabla();
+    if (codigo != SQLITE_OK) return codigo;
+    OctetosPagina = LeerNumero("PRAGMA page_size");
+    TrabajoMax    = TRABAJO_POR_OCTETO * OctetosPagina * LeerNumero("PRAGMA page_count");
+    PaginasPedidas();  // those of other statements do not count
+    Trabajo = 0;
     return sqlite3_prepare_v2(LibroSql.Conexion, sql, -1, &LibroSql.Sentencia, nullptr);
 }
 
 int SiguienteFila() {
-    InicioPaso                  = ObtenerMilisegundos();
-    const int           codigo  = sqlite3_step(LibroSql.Sentencia);
-    const std::uint64_t gastado = ObtenerMilisegundos() - InicioPaso;
-    TiempoRestante -= gastado < TiempoRestante ? gastado : TiempoRestante;
-    return codigo;
+    const int codigo = sqlite3_step(LibroSql.Sentencia);
+    if (codigo != SQLITE_ROW) return codigo;
+    Trabajo += sqlite3_column_bytes(LibroSql.Sentencia, 0);
+    return Trabajo > TrabajoMax ? SQLITE_INTERRUPT : SQLITE_ROW;
 }
 
 const char* TextoDeFila() {
@@ -67,9 +92,10 @@ const char* TextoDeFila() {
 int ObtenerNumeroAperturas() {
     if (PrepararConsulta(CONSULTA_TOTAL) != SQLITE_OK) return 0;
     int total = 0;
-    while (SiguienteFila() == SQLITE_ROW) total = sqlite3_column_int(LibroSql.Sentencia, 0);
+    int codigo;
+    while ((codigo = SiguienteFila()) == SQLITE_ROW) total = sqlite3_column_int(LibroSql.Sentencia, 0);
     FinalizarSentencia();
-    return total;
+    return codigo == SQLITE_DONE ? total : -codigo;
 }
 
 void CerrarBaseDeDatos() {

@@ -33,21 +33,30 @@ static bool EsLineaDeJugadas(const char* linea) {
     return linea[std::strspn(linea, "abcdefgh12345678nrq ")] == '\0';
 }
 
-// At the start of the game the rows come from a random place of the table. The offset may equal the number of
-// rows: then none is read and the book is left at once, now and then with a small book.
-static void ComponerConsultaInicial() {
-    const std::int64_t total = std::max(ObtenerNumeroAperturas(), 0);
-    const std::int64_t salto = std::rand() % (total + 1);
-    std::snprintf(LibroSql.Consulta, sizeof LibroSql.Consulta, "SELECT Partida FROM Book LIMIT %lld, 15;",
-                  static_cast<long long>(salto));
+static void ImprimirErrorLibro(int codigo) {
+    Imprimir("Error en el libro de apertura.\n");
+    Imprimir("C\363digo de error: %d\n", codigo);
 }
 
-static void ComponerConsulta() {
-    if (LibroSql.Linea[0] == '\0')
-        ComponerConsultaInicial();
-    else
-        std::snprintf(LibroSql.Consulta, sizeof LibroSql.Consulta,
-                      "SELECT Partida FROM Book WHERE Partida LIKE '%s%%' LIMIT 15;", LibroSql.Linea);
+// At the start of the game the rows come from a random place of the table. The offset may equal the number of
+// rows: then none is read and the book is left at once, now and then with a small book. Returns false after an error,
+// which is printed.
+static bool ComponerConsultaInicial() {
+    const std::int64_t total = ObtenerNumeroAperturas();
+    if (total < 0) {
+        ImprimirErrorLibro(static_cast<int>(-total));
+        return false;
+    }
+    std::snprintf(LibroSql.Consulta, sizeof LibroSql.Consulta, "SELECT Partida FROM Book LIMIT %lld, 15;",
+                  static_cast<long long>(std::rand() % (total + 1)));
+    return true;
+}
+
+static bool ComponerConsulta() {
+    if (LibroSql.Linea[0] == '\0') return ComponerConsultaInicial();
+    std::snprintf(LibroSql.Consulta, sizeof LibroSql.Consulta,
+                  "SELECT Partida FROM Book WHERE Partida LIKE '%s%%' LIMIT 15;", LibroSql.Linea);
+    return true;
 }
 
 // Returns the number of rows kept; 0 also after an error, which is printed.
@@ -60,15 +69,15 @@ static int LeerFilas(FilaLibro* filas) {
         std::memcpy(filas[numero++].Texto, texto, std::min<std::size_t>(std::strlen(texto), LINEA_LIBRO_MAX));
     }
     if (codigo == SQLITE_DONE) return numero;
-    Imprimir("Error en el libro de apertura.\n");
-    Imprimir("C\363digo de error: %d\n", codigo);
+    ImprimirErrorLibro(codigo);
     return 0;
 }
 
 // --- The move ---
 
-// Copies the move of this row behind the current line; it stays empty when the row ends there.
-static void TomarJugada(const char* fila) {
+// Copies the move behind the current line of one of the rows; it stays empty when the row ends there.
+static void ObtenerJugadaLibro(const FilaLibro* filas, int numero) {
+    const char* fila  = filas[std::rand() % numero].Texto;
     const char* linea = LibroSql.Linea;
     for (; *linea != '\0' && *linea == *fila; ++linea) ++fila;
     if (linea != LibroSql.Linea && *fila == ' ') ++fila;  // the space that separates them
@@ -93,12 +102,11 @@ static bool EsLegal(const char* texto) {
 // Leaves the chosen move in LibroSql.Movimiento; returns false when there is none.
 static bool ElegirJugada() {
     if (!EsLineaDeJugadas(LibroSql.Linea)) return false;
-    ComponerConsulta();
-    if (PrepararConsulta(LibroSql.Consulta) != SQLITE_OK) return false;
+    if (!ComponerConsulta() || PrepararConsulta(LibroSql.Consulta) != SQLITE_OK) return false;
     FilaLibro filas[FILAS_MAX] = {};
     const int numero           = LeerFilas(filas);
     if (numero == 0) return false;
-    TomarJugada(filas[std::rand() % numero].Texto);
+    ObtenerJugadaLibro(filas, numero);
     return EsLegal(LibroSql.Movimiento);
 }
 
@@ -106,7 +114,7 @@ int BuscarJugadaLibro() {
     if (LibroSql.Terminado != 0 || LibroSql.OwnBook == 0) return 0;
     LimpiarTextos();
     bool hallada = false;
-    if (AbrirBaseDeDatos(PLAZO_CONSULTA) != 0)
+    if (AbrirBaseDeDatos() != 0)
         hallada = ElegirJugada();
     else
         Imprimir("Libro de apertura cargado: No.\n");
@@ -116,7 +124,7 @@ int BuscarJugadaLibro() {
 }
 
 int ComprobarAccesoLibro() {
-    const int abierta = AbrirBaseDeDatos(PLAZO_CONSULTA);
+    const int abierta = AbrirBaseDeDatos();
     CerrarBaseDeDatos();
     LimpiarTextos();
     return abierta;

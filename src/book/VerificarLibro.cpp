@@ -63,7 +63,7 @@ static void VerificarFilas() {
 
 void VerificarLibroApertura() {
     Imprimir("Analizando libro de aperturas...\n");
-    if (AbrirBaseDeDatos(PLAZO_VERIFICACION) == 0) {
+    if (AbrirBaseDeDatos() == 0) {
         Imprimir("Libro de apertura cargado: No.\n");
         AbandonarLibro();
         CerrarBaseDeDatos();

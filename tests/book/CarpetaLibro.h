@@ -31,10 +31,11 @@ inline void EscribirLibro(const std::vector<std::string>& filas) {
     sqlite3_close(base);
 }
 
-inline void EscribirVista(const std::string& consulta) {
+// definicion: what follows CREATE.
+inline void CrearBook(const std::string& definicion) {
     sqlite3* base = nullptr;
     ASSERT_EQ(sqlite3_open("Book.db", &base), SQLITE_OK);
-    EjecutarSql(base, "CREATE VIEW Book AS " + consulta);
+    EjecutarSql(base, "CREATE " + definicion);
     sqlite3_close(base);
 }
 

@@ -39,7 +39,10 @@ static const CasoLibro CASOS[] = {
     {"line that no row continues", {"'e2e4 e7e5'"}, {"startpos moves g1f3"}, {""}},
     {"move list with a blank at its end", {"'e2e4 e7e5'"}, {"startpos moves e2e4 "}, {"e7e5"}},
     {"rows that are no lines", {"NULL", "x'65326534'", "''", "'e2e4'||char(0)||'e7e5'"}, {"startpos"}, {"", "e2e4"}},
-    {"a very long row", {"printf('e2e4 e7e5 %.*c', 900000, 'x')"}, {"startpos moves e2e4"}, {"e7e5"}},
+    {"very long rows",
+     {"printf('e2e4 e7e5 %.*c', 1100000, 'x')", "printf('%.*c', 1100000, 'x')", "'e2e4 c7c5'"},
+     {"startpos moves e2e4"},
+     {"e7e5", "c7c5"}},
     {"capital letters match LIKE, but are no move", {"'E2E4 E7E5'"}, {"startpos moves e2e4"}, {""}},
     {"illegal moves", {"'e2e4 e7e4'", "'e2e4 e8e7'", "'e2e4 e7e5q'"}, {"startpos moves e2e4"}, {"", "e7e5"}},
     {"a move that leaves the king in check", {"'e2e4 e7e5 d1h5 f7f6'"}, {"startpos moves e2e4 e7e5 d1h5"}, {""}},
@@ -70,7 +73,7 @@ TEST_F(Libro, RespondeConCadaContinuacionYNadaMas) {
         EscribirLibro(caso.filas);
         LibroSql.OwnBookLimit = caso.limite;
         std::set<std::string> respuestas;
-        for (unsigned semilla = 1; semilla <= 60; ++semilla) {
+        for (unsigned semilla = 1; semilla <= 40; ++semilla) {
             PartidaNueva();
             std::srand(semilla);
             respuestas.insert(Responder(caso.posiciones));
@@ -110,7 +113,7 @@ TEST_F(Libro, QuedaTerminadoHastaLaPartidaSiguiente) {
     EXPECT_EQ(BuscarJugadaLibro(), 0) << "\"position\" found the option off";
 }
 
-TEST_F(Libro, NoPierdeMemoriaEnDiezMilConsultas) {
+TEST_F(Libro, NoPierdeMemoriaEnMuchasConsultas) {
     EscribirLibro({"'e2e4 e7e5'"});
     const auto consultar = [] {
         PartidaNueva();
@@ -119,7 +122,7 @@ TEST_F(Libro, NoPierdeMemoriaEnDiezMilConsultas) {
     };
     consultar();
     const sqlite3_int64 antes = sqlite3_memory_used();
-    for (int i = 0; i < 10000; ++i) consultar();
+    for (int i = 0; i < 2000; ++i) consultar();
     EXPECT_EQ(sqlite3_memory_used(), antes);
     EXPECT_EQ(LibroSql.Conexion, nullptr);
     EXPECT_EQ(LibroSql.Sentencia, nullptr);

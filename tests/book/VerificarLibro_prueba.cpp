@@ -74,14 +74,15 @@ TEST_F(VerificarLibro, FicherosQueNoSonUnLibro) {
              std::filesystem::resize_file("Book.db", 1000);
          },
          "", CORRUPTO},
-        {"other table", [] { EscribirVista("SELECT 'e2e4 e7e5' AS Linea"); }, "", CORRUPTO},
+        {"other table", [] { CrearBook("VIEW Book AS SELECT 'e2e4 e7e5' AS Linea"); }, "", CORRUPTO},
         {"endless view",
          [] {
-             EscribirVista(
-                 "WITH RECURSIVE n(x) AS (SELECT 1 UNION ALL SELECT x + 1 FROM n) "
+             CrearBook(
+                 "VIEW Book AS WITH RECURSIVE n(x) AS (SELECT 1 UNION ALL SELECT x + 1 FROM n) "
                  "SELECT 'e2e4 e7e5' AS Partida FROM n WHERE x < 0");
          },
-         Error(SQLITE_INTERRUPT), ANALIZANDO + Error(SQLITE_INTERRUPT) + "Apertura incorrecta en: \n"},
+         "", CORRUPTO},
+        {"computed column", [] { CrearBook("TABLE Book (x, Partida TEXT AS ('e2e4 e7e5'))"); }, "", CORRUPTO},
     };
     for (const auto& caso : casos) {
         SCOPED_TRACE(caso.nombre);
@@ -93,6 +94,35 @@ TEST_F(VerificarLibro, FicherosQueNoSonUnLibro) {
         EXPECT_EQ(LibroSql.Terminado, 1);
         EXPECT_EQ(Capturar(VerificarLibroApertura), caso.verificacion);
     }
+}
+
+// The inner pages of this table name the next one 600 times each: a small file, and rows without end.
+TEST_F(VerificarLibro, FilasSinFin) {
+    EscribirLibro({"'d2d4 d7d5'"});
+    constexpr std::size_t PAGINA = 4096, CELDA = PAGINA - 5;
+    constexpr char        ULTIMA = 8;
+    std::ifstream         fichero("Book.db", std::ios::binary);
+    std::string           libro((std::istreambuf_iterator<char>(fichero)), {});
+    const std::string     hoja = libro.substr(PAGINA);
+    libro.resize(PAGINA);
+    libro[31] = ULTIMA;
+    for (char hija = 3; hija <= ULTIMA; ++hija) {
+        std::string pagina = std::string("\5\0\0\2\130\17\373\0\0\0\0", 11) + hija;
+        while (pagina.size() < 12 + 2 * 600) pagina += "\17\373";
+        pagina.resize(CELDA);
+        libro += pagina + std::string(3, '\0') + hija + '\1';
+    }
+    std::ofstream("Book.db", std::ios::binary) << libro << hoja;
+
+    const std::string error = Error(SQLITE_INTERRUPT);
+    for (const char* posicion : {"startpos moves e2e4", "startpos"}) {
+        LibroSql.Terminado = 0;
+        LimpiarLineaLibro();
+        Position_Fen_Startpos(posicion);
+        EXPECT_EQ(Capturar([] { EXPECT_EQ(BuscarJugadaLibro(), 0); }), error) << posicion;
+        EXPECT_EQ(LibroSql.Terminado, 1);
+    }
+    EXPECT_EQ(Capturar(VerificarLibroApertura), ANALIZANDO + error + "Apertura incorrecta en: d2d4 d7d5\n");
 }
 
 TEST_F(VerificarLibro, NoEsperaPorUnLibroBloqueado) {
