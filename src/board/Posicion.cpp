@@ -10,7 +10,6 @@
 #include "board/HacerMovimiento.h"
 #include "board/Palabras.h"
 #include "board/Zobrist.h"
-#include "book/LibroSql.h"
 #include "plataforma/Salida.h"
 
 constexpr std::size_t FEN_MAX = 79;  // a word that would make the collected FEN this long or longer is dropped
@@ -103,12 +102,10 @@ int Position_Fen_Startpos(const char* texto) {
     TipoJuego.MovimientosJugados = 0;
 
     char palabra[PALABRA_MAX];
-    texto              = Split_String(texto, palabra);
-    const bool por_fen = std::strcmp(palabra, "fen") == 0;
-    if (por_fen) {
+    texto = Split_String(texto, palabra);
+    if (std::strcmp(palabra, "fen") == 0) {
         char fen[FEN_MAX + 2] = "";
         texto                 = ReunirFen(texto, palabra, fen);
-        AbandonarLibro();
         if (!CargarFen(fen)) {
             Imprimir("info string Formato FEN incorrecto.\n");
             return Position_Fen_Startpos(FEN_INICIAL);
@@ -124,10 +121,7 @@ int Position_Fen_Startpos(const char* texto) {
     std::fill_n(t.HistorialKeys, t.NumeroKeys, 0);
     t.Key = ObtenerKey();
 
-    if (std::strcmp(palabra, "moves") == 0) {
-        if (!por_fen) FijarLineaLibro(*texto == ' ' ? texto + 1 : texto);
-        JugarLista(texto);
-    }
+    if (std::strcmp(palabra, "moves") == 0) JugarLista(texto);
     t.TurnoRaiz = t.Turno;
     return t.Turno;
 }

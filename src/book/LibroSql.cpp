@@ -2,6 +2,8 @@
 
 #include <cstring>
 
+#include "board/Palabras.h"
+
 RegistroLibroSql LibroSql{.Conexion     = nullptr,
                           .Sentencia    = nullptr,
                           .Terminado    = 0,
@@ -21,7 +23,8 @@ void LimpiarLineaLibro() {
     std::memset(LibroSql.Linea, 0, sizeof LibroSql.Linea);
 }
 
-void FijarLineaLibro(const char* movimientos) {
+// movimientos: what follows "moves" and one space, as it stands.
+static void FijarLineaLibro(const char* movimientos) {
     if (LibroSql.OwnBook == 0) {
         AbandonarLibro();
         return;
@@ -33,4 +36,15 @@ void FijarLineaLibro(const char* movimientos) {
         std::memcpy(LibroSql.Linea, movimientos, letras);
     else
         AbandonarLibro();
+}
+
+void SeguirPartida(const char* texto) {
+    char palabra[PALABRA_MAX];
+    texto = Split_String(texto, palabra);
+    if (std::strcmp(palabra, "fen") == 0) {
+        AbandonarLibro();
+        return;
+    }
+    texto = Split_String(texto, palabra);
+    if (std::strcmp(palabra, "moves") == 0) FijarLineaLibro(*texto == ' ' ? texto + 1 : texto);
 }

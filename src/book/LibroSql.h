@@ -1,4 +1,4 @@
-// State of the opening book. The record stands apart from the look-up because "position" writes it too.
+// State of the opening book, and how it follows the game.
 #pragma once
 
 struct sqlite3;
@@ -24,12 +24,13 @@ struct RegistroLibroSql {
 };
 extern RegistroLibroSql LibroSql;
 
-// "position" with a FEN: the book is of no use for this game.
+// The book is of no use any more for this game.
 void AbandonarLibro();
 
-// "position" from the start position followed by "moves", a space and this text: keeps it as the current line when
-// OwnBook is on and the text is short enough for OwnBookLimit; otherwise the book is left.
-void FijarLineaLibro(const char* movimientos);
+// texto: what follows the word "position". A FEN leaves the book. A move list from the start position becomes the
+// current line when OwnBook is on and the list is short enough for OwnBookLimit, otherwise it leaves the book too;
+// without a list the line stays as it is.
+void SeguirPartida(const char* texto);
 
 // Empties the current line.
 void LimpiarLineaLibro();

@@ -39,6 +39,7 @@ static void ComandoIsReady(const char* /*resto*/) {
 }
 
 static void ComandoPosition(const char* resto) {
+    SeguirPartida(resto);
     Position_Fen_Startpos(resto);
 }
 

@@ -39,6 +39,12 @@ inline void CrearBook(const std::string& definicion) {
     sqlite3_close(base);
 }
 
+// The "position" command with this text behind it.
+inline void MandarPosicion(const std::string& texto) {
+    SeguirPartida(texto.c_str());
+    Position_Fen_Startpos(texto.c_str());
+}
+
 inline std::string Capturar(const std::function<void()>& accion) {
     testing::internal::CaptureStdout();
     accion();

@@ -15,7 +15,7 @@ static void PartidaNueva() {
 
 // The reply of the book, "" for none.
 static std::string Responder(const Textos& posiciones) {
-    for (const std::string& posicion : posiciones) Position_Fen_Startpos(posicion.c_str());
+    for (const std::string& posicion : posiciones) MandarPosicion(posicion);
     return BuscarJugadaLibro() != 0 ? LibroSql.Movimiento : "";
 }
 
@@ -108,7 +108,7 @@ TEST_F(Libro, QuedaTerminadoHastaLaPartidaSiguiente) {
     PartidaNueva();
     EXPECT_EQ(Responder({"startpos moves e2e4"}), "e7e5");
     LibroSql.OwnBook = 0;
-    Position_Fen_Startpos("startpos moves e2e4");
+    MandarPosicion("startpos moves e2e4");
     LibroSql.OwnBook = 1;
     EXPECT_EQ(BuscarJugadaLibro(), 0) << "\"position\" found the option off";
 }

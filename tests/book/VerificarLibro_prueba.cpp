@@ -89,7 +89,7 @@ TEST_F(VerificarLibro, FicherosQueNoSonUnLibro) {
         std::filesystem::remove_all("Book.db");
         caso.preparar();
         LibroSql.Terminado = 0;
-        Position_Fen_Startpos("startpos moves e2e4");
+        MandarPosicion("startpos moves e2e4");
         EXPECT_EQ(Capturar([] { EXPECT_EQ(BuscarJugadaLibro(), 0); }), caso.consulta);
         EXPECT_EQ(LibroSql.Terminado, 1);
         EXPECT_EQ(Capturar(VerificarLibroApertura), caso.verificacion);
@@ -130,7 +130,7 @@ TEST_F(VerificarLibro, NoEsperaPorUnLibroBloqueado) {
     sqlite3* otro = nullptr;
     ASSERT_EQ(sqlite3_open("Book.db", &otro), SQLITE_OK);
     EjecutarSql(otro, "BEGIN EXCLUSIVE");
-    Position_Fen_Startpos("startpos moves e2e4");
+    MandarPosicion("startpos moves e2e4");
     EXPECT_EQ(Capturar([] { EXPECT_EQ(BuscarJugadaLibro(), 0); }), "");
     EXPECT_EQ(Capturar(VerificarLibroApertura), ANALIZANDO + Error(SQLITE_BUSY) + "Apertura incorrecta en: \n");
     EjecutarSql(otro, "ROLLBACK");
