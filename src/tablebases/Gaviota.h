@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-constexpr int RUTA_MAX = 255;  // characters of GaviotaTbPath
+#include "tablebases/GaviotaTablas.h"
 
 // Bits of RegistroGaviota::Disponibilidad. "Some" tables of a set are enough to probe it: a position whose table
 // is missing gets no answer.

@@ -7,7 +7,6 @@
 #include <initializer_list>
 
 #include "plataforma/Salida.h"
-#include "tablebases/Gaviota.h"
 
 // A compressed table starts with ten words of 32 bits, low byte first. Right behind them stands the index: where
 // each compressed block begins, then where the last one ends, which is the end of the file. The eighth word, from
