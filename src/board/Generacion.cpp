@@ -1,13 +1,12 @@
 #include "board/Generacion.h"
 
 #include <array>
-#include <bit>
 
 #include "board/Ataques.h"
 #include "board/Color.h"
+#include "board/Conjunto.h"
 #include "board/EstadoMotor.h"
 #include "board/Geometria.h"
-#include "board/Ocupacion.h"
 
 // A queen in the middle of an empty board makes 27 moves, no piece makes more; and a ray writes up to 7 entries of
 // which the later ones may not count.
@@ -20,20 +19,9 @@ namespace {
 // are occupied is beyond any branch predictor.
 struct Salida {
     EntradaMovimiento* Siguiente;
-    std::uint64_t      Propias;
-    std::uint64_t      Rivales;
+    Conjunto           Propias;
+    Conjunto           Rivales;
 };
-
-// RAYOS[square][Direccion]: the squares from the square, itself left out, to the edge.
-constexpr std::array<std::array<std::uint64_t, DIRECCIONES>, 64> CalcularRayos() {
-    std::array<std::array<std::uint64_t, DIRECCIONES>, 64> tabla{};
-    for (unsigned casilla = 0; casilla < 64; ++casilla)
-        for (unsigned dir = 0; dir < DIRECCIONES; ++dir)
-            for (int paso = 1; paso <= ALCANCE[casilla][dir]; ++paso)
-                tabla[casilla][dir] |= std::uint64_t{1} << ((static_cast<int>(casilla) + paso * PASO[dir]) & 63);
-    return tabla;
-}
-constexpr auto RAYOS = CalcularRayos();
 
 // The captured field of a move to a square that holds each code.
 constexpr std::array<std::uint32_t, 16> CalcularCamposCaptura() {
@@ -52,11 +40,11 @@ void Anadir(Salida& salida, std::uint32_t mov) {
 // The target holds no piece of the mover's side, or the move does not count.
 template <int MODO>
 void AddMoveRey(std::uint32_t base, int hasta, Salida& salida) {
-    const int           ocupante = TableroGlobal.Casillas[hasta];
-    const std::uint64_t cuentan  = MODO == GENERAR_CAPTURAS ? salida.Rivales : ~salida.Propias;
+    const int      ocupante = TableroGlobal.Casillas[hasta];
+    const Conjunto cuentan  = MODO == GENERAR_CAPTURAS ? salida.Rivales : ~salida.Propias;
     salida.Siguiente->Movimiento =
         base | static_cast<std::uint32_t>(hasta << DESPLAZA_HASTA) | CAMPO_CAPTURA[static_cast<unsigned>(ocupante)];
-    salida.Siguiente += (cuentan >> hasta) & 1;
+    salida.Siguiente += Contiene(cuentan, hasta);
 }
 
 // The four promotions, queen first; in both modes.
@@ -147,12 +135,11 @@ void ObtenerMovimientoCaballo(int desde, Salida& salida) {
 // One ray: over empty squares up to the first piece, which is taken if it is the enemy's.
 template <int DIR, int MODO>
 void DeslizarRayo(int desde, std::uint32_t base, Salida& salida) {
-    constexpr int       SALTO    = PASO[DIR];
-    const auto          indice   = static_cast<unsigned>(desde);
-    const std::uint64_t ocupadas = RAYOS[indice][DIR] & (salida.Propias | salida.Rivales);
+    constexpr int  SALTO    = PASO[DIR];
+    const auto     indice   = static_cast<unsigned>(desde);
+    const Conjunto ocupadas = RAYOS[indice][DIR] & (salida.Propias | salida.Rivales);
     // Without a piece on the ray the blocker is the square itself, which the mover's own piece occupies.
-    const std::uint64_t candidatas = ocupadas != 0 ? ocupadas : std::uint64_t{1} << desde;
-    const int           tope       = SALTO > 0 ? std::countr_zero(candidatas) : 63 - std::countl_zero(candidatas);
+    const int tope = PrimerObstaculo<DIR>(ocupadas != 0 ? ocupadas : Bit(desde));
     if (MODO != GENERAR_CAPTURAS) {
         constexpr int MAXIMO = 7;
         const int     libres = ocupadas != 0 ? (tope - desde) / SALTO - 1 : ALCANCE[indice][DIR];
@@ -254,9 +241,9 @@ void GenerarPiezaConCuidado(int desde, Salida& salida, const EntradaMovimiento* 
 template <int C, int MODO>
 int Generar(ListaMovimientos& lista) {
     const EntradaMovimiento* const fin = lista.Entradas + MOVIMIENTOS_MAX;
-    Salida                         salida{lista.Entradas, MascaraPropias<C>(), MascaraPropias<RIVAL<C>>()};
-    for (std::uint64_t propias = salida.Propias; propias != 0;) {
-        const int desde = TomarCasilla<C>(propias);
+    Salida                         salida{lista.Entradas, CasillasDe<C>(), CasillasDe<RIVAL<C>>()};
+    for (Conjunto propias = salida.Propias; propias != 0;) {
+        const int desde = SacarCasillaEnOrden<C>(propias);
         if (fin - salida.Siguiente >= MOVIMIENTOS_PIEZA_MAX)
             GenerarPieza<C, MODO>(desde, salida);
         else

@@ -64,7 +64,7 @@ void EvaluarAvances() {
     const Conjunto        seguros =
         avances & ~rival.Ataque_Peones & (ConUnoOMas(propios.Ataques) | ~ConUnoOMas(rival.Ataques));
     const Conjunto piezas = (rival.Todas ^ rival.Peones ^ rival.Rey) & ~propios.Ataque_Peones;
-    Sumar<C>(AVANCE_A_PIEZA, (AtaquesHaciaA<C>(seguros) | AtaquesHaciaH<C>(seguros)) & piezas);
+    Sumar<C>(AVANCE_A_PIEZA, AtaquesDePeones<C>(seguros) & piezas);
 }
 
 template <int C>

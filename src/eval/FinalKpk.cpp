@@ -1,8 +1,6 @@
 #include "eval/FinalKpk.h"
 
-#include <cstdint>
-
-#include "board/Geometria.h"
+#include "board/Conjunto.h"
 
 // Pawns stand on files a to d (the others are mirrored) and ranks 2 to 7: 4 x 6 squares.
 constexpr int COLUMNAS_KPK = 4;
@@ -10,31 +8,12 @@ constexpr int PEONES_KPK   = 24;
 constexpr int FILA_SEPTIMA = 1;  // as Fila() counts
 constexpr int FILA_SEGUNDA = 6;
 
-constexpr std::uint64_t SIN_COLUMNA_A = 0xFEFEFEFEFEFEFEFE;
-constexpr std::uint64_t SIN_COLUMNA_H = 0x7F7F7F7F7F7F7F7F;
-
 // Squares of the weaker king, one bit a square, from which the pawn wins: [pawn][stronger king].
 struct TablaKpk {
-    std::uint64_t MueveFuerte[PEONES_KPK][64];
-    std::uint64_t MueveDebil[PEONES_KPK][64];
+    Conjunto MueveFuerte[PEONES_KPK][64];
+    Conjunto MueveDebil[PEONES_KPK][64];
 };
 static TablaKpk Ganadas;
-
-static constexpr std::uint64_t Bit(int casilla) {
-    return std::uint64_t{1} << casilla;
-}
-
-// All squares a king move away from some square of the set.
-static constexpr std::uint64_t Vecinas(std::uint64_t casillas) {
-    const std::uint64_t lados = ((casillas << 1) & SIN_COLUMNA_A) | ((casillas >> 1) & SIN_COLUMNA_H);
-    const std::uint64_t fila  = casillas | lados;
-    return lados | (fila << 8) | (fila >> 8);
-}
-
-static constexpr std::uint64_t AtaquePeon(int peon) {
-    const std::uint64_t delante = Bit(peon) >> 8;
-    return ((delante << 1) & SIN_COLUMNA_A) | ((delante >> 1) & SIN_COLUMNA_H);
-}
 
 static constexpr int IndicePeon(int peon) {
     return (Fila(peon) - FILA_SEPTIMA) * COLUMNAS_KPK + Columna(peon);
@@ -42,22 +21,22 @@ static constexpr int IndicePeon(int peon) {
 
 // The weaker king's squares for which some advance of the pawn wins. A pawn that reaches the last rank wins unless it
 // is taken there at once: a queen, or a rook where the queen would stalemate.
-static std::uint64_t GanaAvanzando(int peon, int rey) {
+static Conjunto GanaAvanzando(int peon, int rey) {
     const int paso = peon - 8;
     if (paso == rey) return 0;
     if (Fila(peon) == FILA_SEPTIMA) {
         const bool defendida = DistanciaRey(rey, paso) == 1;
-        return ~Bit(paso) & (defendida ? ~std::uint64_t{0} : ~Vecinas(Bit(paso)));
+        return ~Bit(paso) & (defendida ? ~Conjunto{0} : ~Vecinas(Bit(paso)));
     }
-    std::uint64_t ganadas = Ganadas.MueveDebil[IndicePeon(paso)][rey];
+    Conjunto ganadas = Ganadas.MueveDebil[IndicePeon(paso)][rey];
     if (Fila(peon) == FILA_SEGUNDA && paso - 8 != rey)
         ganadas |= Ganadas.MueveDebil[IndicePeon(paso - 8)][rey] & ~Bit(paso);
     return ganadas;
 }
 
 // The same for the king moves, by what is known so far.
-static std::uint64_t GanaConElRey(int peon, int rey) {
-    std::uint64_t ganadas = 0;
+static Conjunto GanaConElRey(int peon, int rey) {
+    Conjunto      ganadas = 0;
     const Saltos& pasos   = SALTOS_REY[static_cast<unsigned>(rey)];
     for (int i = 0; i < pasos.Numero; ++i)
         if (pasos.Casillas[i] != peon) ganadas |= Ganadas.MueveDebil[IndicePeon(peon)][pasos.Casillas[i]];
@@ -70,17 +49,19 @@ static bool Barrer(int peon) {
     const int fila   = IndicePeon(peon);
     for (int rey = 0; rey < 64; ++rey) {
         if (rey == peon) continue;
-        const std::uint64_t zona     = Vecinas(Bit(rey)) | Bit(rey);
-        const std::uint64_t legales  = ~(zona | Bit(peon));
-        const std::uint64_t destinos = ~(zona | AtaquePeon(peon));  // with the pawn's own square: taking it draws
+        const Conjunto zona    = Vecinas(Bit(rey)) | Bit(rey);
+        const Conjunto legales = ~(zona | Bit(peon));
+        const Conjunto destinos =
+            ~(zona | AtaquesDePeones<BLANCO>(Bit(peon)));  // with the pawn's own square: taking it draws
 
         // The weaker side loses when it can move and every move leads to a won position.
-        std::uint64_t& debil    = Ganadas.MueveDebil[fila][rey];
-        std::uint64_t& fuerte   = Ganadas.MueveFuerte[fila][rey];
-        const auto     antes    = debil;
-        const auto     anterior = fuerte;
-        debil                   = legales & Vecinas(destinos) & ~Vecinas(destinos & ~fuerte);
-        fuerte = legales & ~AtaquePeon(peon) & (fuerte | GanaAvanzando(peon, rey) | GanaConElRey(peon, rey));
+        Conjunto&  debil    = Ganadas.MueveDebil[fila][rey];
+        Conjunto&  fuerte   = Ganadas.MueveFuerte[fila][rey];
+        const auto antes    = debil;
+        const auto anterior = fuerte;
+        debil               = legales & Vecinas(destinos) & ~Vecinas(destinos & ~fuerte);
+        fuerte              = legales & ~AtaquesDePeones<BLANCO>(Bit(peon)) &
+                 (fuerte | GanaAvanzando(peon, rey) | GanaConElRey(peon, rey));
         cambio |= debil != antes || fuerte != anterior;
     }
     return cambio;
@@ -96,9 +77,9 @@ void IniciarKpk() {
 
 int KpkGana(int reyFuerte, int peon, int reyDebil, bool mueveFuerte) {
     if (Fila(peon) < FILA_SEPTIMA || Fila(peon) > FILA_SEGUNDA) return 0;
-    const int           espejo = Columna(peon) < COLUMNAS_KPK ? 0 : 7;
-    const int           indice = IndicePeon(peon ^ espejo);
-    const std::uint64_t ganan =
+    const int      espejo = Columna(peon) < COLUMNAS_KPK ? 0 : 7;
+    const int      indice = IndicePeon(peon ^ espejo);
+    const Conjunto ganan =
         mueveFuerte ? Ganadas.MueveFuerte[indice][reyFuerte ^ espejo] : Ganadas.MueveDebil[indice][reyFuerte ^ espejo];
     return static_cast<int>((ganan >> (reyDebil ^ espejo)) & 1U);
 }

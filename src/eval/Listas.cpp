@@ -1,46 +1,15 @@
 #include "eval/Listas.h"
 
-#if defined(__AVX2__)
-#include <immintrin.h>
-#endif
-
-#include "board/Ocupacion.h"
-
 ConjuntosBando Conjuntos[2];
 Conjunto       Ocupadas;
 
 namespace {
 
-// The board with one byte a square, so that few vector comparisons cover it.
-struct CodigosTablero {
-    alignas(64) std::uint8_t Casillas[64];
-};
-
-CodigosTablero LeerTablero() {
-    CodigosTablero codigos;
-    for (int i = 0; i < 64; ++i) codigos.Casillas[i] = static_cast<std::uint8_t>(TableroGlobal.Casillas[i]);
-    return codigos;
-}
-
-Conjunto CasillasCon(const CodigosTablero& codigos, int pieza) {
-#if defined(__AVX2__)
-    const auto*   mitades = reinterpret_cast<const __m256i*>(codigos.Casillas);
-    const __m256i buscada = _mm256_set1_epi8(static_cast<char>(pieza));
-    const auto    baja    = static_cast<unsigned>(_mm256_movemask_epi8(_mm256_cmpeq_epi8(mitades[0], buscada)));
-    const auto    alta    = static_cast<unsigned>(_mm256_movemask_epi8(_mm256_cmpeq_epi8(mitades[1], buscada)));
-    return Conjunto{alta} << 32 | baja;
-#else
-    Conjunto conjunto = 0;
-    for (int i = 0; i < 64; ++i) conjunto |= Conjunto{codigos.Casillas[i] == pieza} << i;
-    return conjunto;
-#endif
-}
-
 // Pawns are listed the most advanced first, pieces in generation order, which begins at the side's own back rank.
 template <int C>
 void LlenarLista(ListaCasillas& lista, Conjunto piezas) {
     int n = 0;
-    while (piezas != 0) lista.Casillas[n++] = static_cast<std::uint8_t>(TomarCasilla<C>(piezas));
+    while (piezas != 0) lista.Casillas[n++] = static_cast<std::uint8_t>(SacarCasillaEnOrden<C>(piezas));
     lista.Numero = n;
 }
 
@@ -67,15 +36,14 @@ template <int C>
 void EvaluarControlPeones() {
     ConjuntosBando& propios = Conjuntos[C];
     RegistroBando&  bando   = BandoDe<C>();
-    const Conjunto  hacia_a = AtaquesHaciaA<C>(propios.Peones);
-    const Conjunto  hacia_h = AtaquesHaciaH<C>(propios.Peones);
+    const Conjunto  hacia_a = Avanzar<C>(HaciaA(propios.Peones));
+    const Conjunto  hacia_h = Avanzar<C>(HaciaH(propios.Peones));
     for (int columna = 0; columna < 8; ++columna)
         bando.Peones_Columna[columna + 1] = Cuantas(propios.Peones & ColumnaEntera(columna));
     bando.Peones_Septima = Cuantas(propios.Peones & FilaEntera<C>(6));
 
-    const Conjunto estela = HastaElFinal<C>(propios.Peones);
     propios.Ataque_Peones = hacia_a | hacia_h;
-    propios.Alcance_Peon  = AtaquesHaciaA<C>(estela) | AtaquesHaciaH<C>(estela);
+    propios.Alcance_Peon  = AtaquesDePeones<C>(HastaElFinal<C>(propios.Peones));
     propios.Ataques       = Cuenta{{hacia_a ^ hacia_h, hacia_a & hacia_h, 0, 0}};
     EscribirCuenta(propios.Ataques, ~Conjunto{0}, bando.Ataque_Peon);
 }

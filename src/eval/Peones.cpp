@@ -99,21 +99,6 @@ constexpr Conjunto ALA_REY  = ALA_DAMA << 4;     // files e to h
 template <int C>
 constexpr Conjunto CENTRO_AVANZADO = Bit(En<C>("d5")) | Bit(En<C>("e5")) | Bit(En<C>("d6")) | Bit(En<C>("e6"));
 
-template <int C>
-constexpr Conjunto Retroceder(Conjunto conjunto) {
-    return Avanzar<RIVAL<C>>(conjunto);
-}
-// One step sideways; what leaves the board is dropped.
-constexpr Conjunto HaciaA(Conjunto conjunto) {
-    return (conjunto & ~COLUMNA_A) >> 1;
-}
-constexpr Conjunto HaciaH(Conjunto conjunto) {
-    return (conjunto & ~COLUMNA_H) << 1;
-}
-constexpr Conjunto Lados(Conjunto conjunto) {
-    return HaciaA(conjunto) | HaciaH(conjunto);
-}
-
 // The squares that have a square of the set ahead of them on their file.
 template <int C>
 constexpr Conjunto Detras(Conjunto conjunto) {

@@ -1,14 +1,14 @@
 #include "eval/RegistroFinal.h"
 
-#include "board/Ocupacion.h"
+#include "board/Conjunto.h"
 #include "eval/Espejo.h"
 
 template <int C, int FUERTE>
 static void AgregarPiezas(RegistroFinal& pos) {
     constexpr int RECODIFICA = (C == FUERTE ? 0 : DESFASE_NEGRO) - CODIGO_BASE<C>;
-    std::uint64_t propias    = MascaraPropias<C>();
+    Conjunto      propias    = CasillasDe<C>();
     while (propias != 0) {
-        const int casilla = TomarCasilla<C>(propias);
+        const int casilla = SacarCasillaEnOrden<C>(propias);
         const int codigo  = TableroGlobal.Casillas[casilla] + RECODIFICA;
         if (codigo <= 0 || codigo >= CODIGOS) continue;
         pos.Casillas[codigo][pos.Numero[codigo]++] = static_cast<std::uint8_t>(Relativa<FUERTE>(casilla));

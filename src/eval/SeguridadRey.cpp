@@ -69,7 +69,7 @@ constexpr int PESO_ZONA_DEBIL    = 5;  // an attacked square of the zone that on
 // Relative rank of the pawn nearest to the back rank of C; that of the eighth for none.
 template <int C>
 int FilaMasAtrasada(Conjunto peones) {
-    return C == BLANCO ? 7 - ((63 - std::countl_zero(peones | Bit(0))) >> 3) : std::countr_zero(peones | Bit(63)) >> 3;
+    return C == BLANCO ? FilaRelativa<C>(Ultima(peones | Bit(0))) : FilaRelativa<C>(Primera(peones | Bit(63)));
 }
 
 template <int C>

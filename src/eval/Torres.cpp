@@ -1,7 +1,6 @@
 #include "eval/Torres.h"
 
 #include <array>
-#include <bit>
 
 #include "board/Color.h"
 #include "board/Geometria.h"
@@ -136,8 +135,8 @@ int PuntosColumna(int torre) {
 
     const Conjunto hacia_8 = rivales & RAYOS[casilla][DIR_MENOS_8];
     const Conjunto hacia_1 = rivales & RAYOS[casilla][DIR_MAS_8];
-    return (hacia_8 != 0 ? PuntosPeonALaVista<C>(63 - std::countl_zero(hacia_8)) : 0) +
-           (hacia_1 != 0 ? PuntosPeonALaVista<C>(std::countr_zero(hacia_1)) : 0);
+    return (hacia_8 != 0 ? PuntosPeonALaVista<C>(PrimerObstaculo<DIR_MENOS_8>(hacia_8)) : 0) +
+           (hacia_1 != 0 ? PuntosPeonALaVista<C>(PrimerObstaculo<DIR_MAS_8>(hacia_1)) : 0);
 }
 
 // A rook that has strayed in front of an enemy rook's pawn and cannot leave along its rank.
