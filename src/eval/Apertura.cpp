@@ -1,7 +1,7 @@
 #include "eval/Apertura.h"
 
-#include "board/Color.h"
 #include "eval/Espejo.h"
+#include "eval/Par.h"
 
 namespace {
 
@@ -60,6 +60,6 @@ int PuntosApertura() {
 }  // namespace
 
 void EvaluarApertura() {
-    Blancas.Puntos_OP += PuntosApertura<BLANCO>();
-    Negras.Puntos_OP += PuntosApertura<NEGRO>();
+    SumarApertura<BLANCO>(PuntosApertura<BLANCO>());
+    SumarApertura<NEGRO>(PuntosApertura<NEGRO>());
 }

@@ -3,13 +3,12 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "board/Color.h"
 #include "eval/Amenazas.h"
 #include "eval/Apertura.h"
-#include "eval/EvalComun.h"
 #include "eval/Finales.h"
 #include "eval/FinalesDificiles.h"
 #include "eval/Material.h"
+#include "eval/Par.h"
 #include "eval/Peones.h"
 #include "eval/Piezas.h"
 #include "eval/SeguridadRey.h"
@@ -25,11 +24,10 @@ namespace {
 constexpr int   PESO_PROPIO      = 100;  // percent
 constexpr int   PESO_RIVAL       = 104;
 constexpr int   PESO_TROPISMO    = 20;
-constexpr int   BONUS_TURNO_OP   = 5;  // centipawns for the right to move
-constexpr int   BONUS_TURNO_EG   = 10;
-constexpr int   FASE_FINAL       = 9;    // the recognisers of endings are asked up to this phase
-constexpr int   ATAQUE_VALOR_MAX = 399;  // last entry of KING_ATTACK_MULTI
-constexpr int   SIN_CAMBIO       = 100;  // percent, FinalesReconocidos
+constexpr Par   BONUS_TURNO      = {5, 10};  // for the right to move
+constexpr int   FASE_FINAL       = 9;        // the recognisers of endings are asked up to this phase
+constexpr int   ATAQUE_VALOR_MAX = 399;      // last entry of KING_ATTACK_MULTI
+constexpr int   SIN_CAMBIO       = 100;      // percent, FinalesReconocidos
 constexpr int   FINAL_TABLAS     = 0;
 constexpr float INVERSO_FASE_MAX = 0.041666668F;
 
@@ -72,9 +70,10 @@ void SumarEscalados() {
 }
 
 void SumarTurno() {
-    RegistroBando& bando = TableroGlobal.Turno == BLANCO ? Blancas : Negras;
-    bando.Puntos_OP += BONUS_TURNO_OP;
-    bando.Puntos_EG += BONUS_TURNO_EG;
+    if (TableroGlobal.Turno == BLANCO)
+        Sumar<BLANCO>(BONUS_TURNO);
+    else
+        Sumar<NEGRO>(BONUS_TURNO);
 }
 
 // The accumulated terms of both sides as one score from White's view.
@@ -132,7 +131,6 @@ void Iniciar_Asimetrico() {
 }
 
 void Iniciar_Evaluacion() {
-    Iniciar_Piezas();
     Iniciar_SeguridadRey();
     Iniciar_Finales();
 }

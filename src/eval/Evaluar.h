@@ -21,6 +21,6 @@ extern int AJUSTE_ATT[2];
 // earlier searches with whatever weights they had.
 void Iniciar_Asimetrico();
 
-// Fills the computed tables (mobility, king attack, endgame bitbase). To be called once at start-up, before any
+// Fills the computed tables (king attack, endgame bitbase). To be called once at start-up, before any
 // evaluation.
 void Iniciar_Evaluacion();

@@ -1,11 +1,10 @@
 #include "eval/FinalDamaPeon.h"
 
+#include "eval/Pesos.h"
+
 namespace {
 
-constexpr int PUNTOS_GANADA   = 800;  // the queen less the pawn, with room for the gradient
-constexpr int PUNTOS_TABLAS   = 20;
-constexpr int PESO_CERCANIA   = 10;  // centipawns a step of the king towards the pawn
-constexpr int FILA_SEPTIMA    = 6;   // of the weaker side, as Fila() counts
+constexpr int FILA_SEPTIMA    = 6;  // of the weaker side, as Fila() counts
 constexpr int COLUMNA_ALFIL_C = 2;
 
 // The stronger king reaches the mating net around a1 or c1 in time. The pawn is on the left half of the board; all
@@ -31,6 +30,6 @@ bool EsTablas(const RegistroFinal& pos) {
 }  // namespace
 
 int EvaluarDamaContraPeon(const RegistroFinal& pos) {
-    const int cercania = PESO_CERCANIA * (7 - DistanciaRey(Una(pos, REY_B), Una(pos, PEON_N)));
-    return EsTablas(pos) ? PUNTOS_TABLAS : PUNTOS_GANADA + cercania;
+    const int cercania = PESOS.DAMA_PEON_CERCANIA * (7 - DistanciaRey(Una(pos, REY_B), Una(pos, PEON_N)));
+    return EsTablas(pos) ? PESOS.DAMA_PEON_TABLAS : PESOS.DAMA_PEON_GANADA + cercania;
 }

@@ -5,18 +5,11 @@
 
 #include "eval/Espejo.h"
 #include "eval/FinalesDificiles.h"
+#include "eval/Pesos.h"
 
 namespace {
 
-constexpr int PUNTOS_FORTALEZA = 25;  // centipawns: drawn, but the side that may try keeps trying
-
-// Opposite-coloured bishops, centipawns. A pawn counts for less than half of its worth while the other bishop and
-// king can stop it, and for more once there are two more of them than they can watch.
-constexpr int PEON_ALFILES         = 35;
-constexpr int PEON_ALFILES_DOS_MAS = 65;
-constexpr int DIFERENCIA_MAX       = 2;
-constexpr int PASADO_ALFILES[8]    = {0, 80, 50, 30, 15, 8, 4, 0};  // by steps to promotion
-constexpr int PESO_CENTRO          = 3;
+constexpr int DIFERENCIA_MAX = 2;  // of pawns, with opposite-coloured bishops
 
 // The files of one colour's pawns are all the given rook file.
 bool PeonesEnColumna(const RegistroFinal& pos, int columna) {
@@ -62,7 +55,7 @@ int PeonesConAlfiles(const RegistroFinal& pos, int codigo, int valorPeon) {
         if (!EsPasado(pos, codigo, peon)) continue;
         const int pasos   = PasosHastaCoronar(fuerte ? peon : Reflejada(peon));
         const int bloqueo = MismoColor(peon, alfilRival) ? 1 : 2;  // the next square has the other colour
-        suma += PASADO_ALFILES[pasos] * bloqueo / 2;
+        suma += PESOS.ALFILES_PASADO[pasos] * bloqueo / 2;
     }
     return suma;
 }
@@ -87,9 +80,9 @@ int EvaluarAlfilPeonContraMenor(const RegistroFinal& pos) {
 int EvaluarAlfilesDistintoColor(const RegistroFinal& pos) {
     const int diferencia = Absoluto(pos.Numero[PEON_B] - pos.Numero[PEON_N]);
     if (MismoColor(Una(pos, ALFIL_B), Una(pos, ALFIL_N)) || diferencia > DIFERENCIA_MAX) return NO_RECONOCIDO;
-    const int valorPeon = diferencia == DIFERENCIA_MAX ? PEON_ALFILES_DOS_MAS : PEON_ALFILES;
+    const int valorPeon = diferencia == DIFERENCIA_MAX ? PESOS.ALFILES_PEON_DOS_MAS : PESOS.ALFILES_PEON;
     return PeonesConAlfiles(pos, PEON_B, valorPeon) - PeonesConAlfiles(pos, PEON_N, valorPeon) +
-           PESO_CENTRO * (LejosDelCentro(Una(pos, REY_N)) - LejosDelCentro(Una(pos, REY_B)));
+           PESOS.ALFILES_CENTRO * (LejosDelCentro(Una(pos, REY_N)) - LejosDelCentro(Una(pos, REY_B)));
 }
 
 int EvaluarDamaContraTorrePeon(const RegistroFinal& pos) {
@@ -99,5 +92,5 @@ int EvaluarDamaContraTorrePeon(const RegistroFinal& pos) {
     const bool sostenida = Fila(peon) == 1 && Fila(torre) == 2 && Absoluto(Columna(peon) - Columna(torre)) == 1;
     const bool encerrada = sostenida && !EsColumnaTorre(peon) && DistanciaRey(rey, peon) == 1 && Fila(rey) < 2 &&
                            Fila(Una(pos, REY_B)) > Fila(torre);
-    return encerrada ? PUNTOS_FORTALEZA : NO_RECONOCIDO;
+    return encerrada ? PESOS.FORTALEZA : NO_RECONOCIDO;
 }

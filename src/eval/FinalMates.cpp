@@ -6,6 +6,7 @@
 #include "eval/FinalFortalezas.h"
 #include "eval/FinalKpk.h"
 #include "eval/FinalesDificiles.h"
+#include "eval/Pesos.h"
 
 namespace {
 
@@ -15,8 +16,6 @@ constexpr int PESO_REYES  = 6;
 constexpr int PESO_AVANCE = 8;
 
 constexpr int PESO_CABALLO = 2;  // the knight towards the king, when it mates with the bishop
-
-constexpr int BASE_VENTAJA = 150;  // what a decisive advantage is worth beyond its material
 
 constexpr int DISTANCIA_MAX = 7;
 
@@ -105,5 +104,5 @@ int EvaluarReySolo(const RegistroFinal& pos) {
 }
 
 int EvaluarVentajaSinPeones(const RegistroFinal& pos) {
-    return BASE_VENTAJA + ValorMaterial(pos, PEON_B) - ValorMaterial(pos, PEON_N) + Acoso(pos);
+    return PESOS.BASE_VENTAJA + ValorMaterial(pos, PEON_B) - ValorMaterial(pos, PEON_N) + Acoso(pos);
 }

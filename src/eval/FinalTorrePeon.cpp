@@ -3,18 +3,12 @@
 #include <algorithm>
 
 #include "eval/FinalesDificiles.h"
+#include "eval/Pesos.h"
 
 namespace {
 
-// Rook against pawn, centipawns by the tempi that the stronger king is ahead, from 0 or fewer to 4 or more.
-constexpr int PUNTOS_CARRERA[] = {20, 100, 220, 340, 400};
-constexpr int VENTAJA_MAX      = 4;
+constexpr int VENTAJA_MAX      = RegistroPesos::VENTAJAS - 1;
 constexpr int PASOS_PEON_ATRAS = 5;  // a pawn that has this far to go, or more, loses
-constexpr int PESO_CERCANIA    = 5;
-
-// Rook and pawn against rook, centipawns.
-constexpr int PUNTOS_TABLAS = 10;
-constexpr int PUNTOS_LUCENA = 400;
 
 int Rango(int casilla) {
     return 8 - Fila(casilla);
@@ -84,12 +78,12 @@ int EvaluarTorreContraPeon(const RegistroFinal& pos) {
     const bool delante = Columna(rey) == Columna(peon) && Fila(rey) > Fila(peon);
     const bool solo    = DistanciaRey(debil, peon) > (pos.MueveFuerte ? 2 : 3);
     const int indice = delante || solo || pasos >= PASOS_PEON_ATRAS ? VENTAJA_MAX : std::clamp(ventaja, 0, VENTAJA_MAX);
-    return PUNTOS_CARRERA[indice] + PESO_CERCANIA * (7 - DistanciaRey(rey, peon));
+    return PESOS.TORRE_PEON_CARRERA[indice] + PESOS.TORRE_PEON_CERCANIA * (7 - DistanciaRey(rey, peon));
 }
 
 int EvaluarTorrePeonContraTorre(const RegistroFinal& pos) {
     const TorrePeon t = LeerTorrePeon(pos);
     if (EsTerceraFila(t) || EsJaquesPorDetras(t) || EsUltimaFila(t) || EsAtaqueLateral(t) || EsTorreAtadaAlPeon(t))
-        return PUNTOS_TABLAS;
-    return EsLucena(t) ? PUNTOS_LUCENA : NO_RECONOCIDO;
+        return PESOS.TORRE_PEON_TORRE_TABLAS;
+    return EsLucena(t) ? PESOS.TORRE_PEON_TORRE_LUCENA : NO_RECONOCIDO;
 }

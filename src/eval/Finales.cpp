@@ -3,20 +3,21 @@
 #include <cstdint>
 
 #include "eval/ClaveMaterial.h"
+#include "eval/Pesos.h"
 
 namespace {
 
 constexpr int SIN_CAMBIO       = 100;
-constexpr int SIN_REGLA        = -1;
+constexpr int TABLAS_MUERTAS   = 0;
 constexpr int PIEZAS_CON_REGLA = 5;  // no rule names more pieces, or more pawns, than these on the board
 constexpr int PEONES_CON_REGLA = 2;
 
-constexpr int VENTAJA_MENOR = 3;   // pawns that a minor piece is worth
-constexpr int FACTOR_MENOR  = 30;  // a minor piece ahead without a pawn to promote
+constexpr int VENTAJA_MENOR = 3;  // pawns that a minor piece is worth
 
-// Percentage for an ending whose two sides are given in this order, or SIN_REGLA. After the practice and statistics of
+// What the material of two sides given in this order deserves, or no weight. After the practice and statistics of
 // pawnless endings (Fine; Nunn): what is drawn with best play, yet holds chances, keeps a part of its score.
-int FactorOrdenado(std::uint64_t enfrentadas) {
+const int* FactorOrdenado(std::uint64_t enfrentadas) {
+    // clang-format off
     switch (enfrentadas) {
         // Nobody can force a mate.
         case Enfrentadas("", ""):
@@ -27,67 +28,46 @@ int FactorOrdenado(std::uint64_t enfrentadas) {
         case Enfrentadas("B", "N"):
         case Enfrentadas("B", "B"):
         case Enfrentadas("NN", "N"):
-        case Enfrentadas("NN", "B"):
-            return 0;
+        case Enfrentadas("NN", "B"):   return &TABLAS_MUERTAS;
 
-        // A minor piece ahead without pawns, and equal pieces.
-        case Enfrentadas("R", "R"):
-        case Enfrentadas("Q", "Q"):
-        case Enfrentadas("BN", "B"):
-        case Enfrentadas("BB", "B"):
-        case Enfrentadas("RN", "R"):
-        case Enfrentadas("R", "BB"):
-        case Enfrentadas("R", "BN"):
-        case Enfrentadas("R", "NN"):
-        case Enfrentadas("Q", "RR"):
-            return 10;
-        case Enfrentadas("R", "B"):
-        case Enfrentadas("R", "N"):
-        case Enfrentadas("BN", "N"):
-        case Enfrentadas("Q", "RB"):
-        case Enfrentadas("Q", "RN"):
-        case Enfrentadas("Q", "NN"):
-        case Enfrentadas("QB", "Q"):
-        case Enfrentadas("QN", "Q"):
-            return 20;
-        case Enfrentadas("RB", "R"):
-            return 25;
-
-        // Won in theory, but slowly: fifty moves are often not enough.
-        case Enfrentadas("BB", "N"):
-        case Enfrentadas("Q", "BB"):
-        case Enfrentadas("Q", "BN"):
-            return 60;
-
-        // The defender gives up its piece for the last pawn.
-        case Enfrentadas("BP", "B"):
-            return 45;
-        case Enfrentadas("BP", "N"):
-        case Enfrentadas("NP", "B"):
-        case Enfrentadas("NP", "N"):
-            return 55;
-        case Enfrentadas("RP", "R"):
-            return 70;
-        case Enfrentadas("QP", "Q"):
-            return 60;
-        case Enfrentadas("RPP", "R"):
-        case Enfrentadas("QPP", "Q"):
-            return 85;
-
-        // Only the pawns can win, or the piece has nothing to win with.
-        case Enfrentadas("N", "P"):
-        case Enfrentadas("B", "P"):
-            return 10;
-        case Enfrentadas("N", "PP"):
-        case Enfrentadas("B", "PP"):
-            return 25;
-        case Enfrentadas("NN", "P"):  // mates while the pawn is blockaded far enough back (Troitsky)
-            return 40;
-        case Enfrentadas("Q", "RP"):
-            return 75;
-        default:
-            return SIN_REGLA;
+        case Enfrentadas("R", "R"):    return &PESOS.FACTOR_R_R;
+        case Enfrentadas("Q", "Q"):    return &PESOS.FACTOR_Q_Q;
+        case Enfrentadas("BN", "B"):   return &PESOS.FACTOR_BN_B;
+        case Enfrentadas("BB", "B"):   return &PESOS.FACTOR_BB_B;
+        case Enfrentadas("RN", "R"):   return &PESOS.FACTOR_RN_R;
+        case Enfrentadas("R", "BB"):   return &PESOS.FACTOR_R_BB;
+        case Enfrentadas("R", "BN"):   return &PESOS.FACTOR_R_BN;
+        case Enfrentadas("R", "NN"):   return &PESOS.FACTOR_R_NN;
+        case Enfrentadas("Q", "RR"):   return &PESOS.FACTOR_Q_RR;
+        case Enfrentadas("R", "B"):    return &PESOS.FACTOR_R_B;
+        case Enfrentadas("R", "N"):    return &PESOS.FACTOR_R_N;
+        case Enfrentadas("BN", "N"):   return &PESOS.FACTOR_BN_N;
+        case Enfrentadas("Q", "RB"):   return &PESOS.FACTOR_Q_RB;
+        case Enfrentadas("Q", "RN"):   return &PESOS.FACTOR_Q_RN;
+        case Enfrentadas("Q", "NN"):   return &PESOS.FACTOR_Q_NN;
+        case Enfrentadas("QB", "Q"):   return &PESOS.FACTOR_QB_Q;
+        case Enfrentadas("QN", "Q"):   return &PESOS.FACTOR_QN_Q;
+        case Enfrentadas("RB", "R"):   return &PESOS.FACTOR_RB_R;
+        case Enfrentadas("BB", "N"):   return &PESOS.FACTOR_BB_N;
+        case Enfrentadas("Q", "BB"):   return &PESOS.FACTOR_Q_BB;
+        case Enfrentadas("Q", "BN"):   return &PESOS.FACTOR_Q_BN;
+        case Enfrentadas("BP", "B"):   return &PESOS.FACTOR_BP_B;
+        case Enfrentadas("BP", "N"):   return &PESOS.FACTOR_BP_N;
+        case Enfrentadas("NP", "B"):   return &PESOS.FACTOR_NP_B;
+        case Enfrentadas("NP", "N"):   return &PESOS.FACTOR_NP_N;
+        case Enfrentadas("RP", "R"):   return &PESOS.FACTOR_RP_R;
+        case Enfrentadas("QP", "Q"):   return &PESOS.FACTOR_QP_Q;
+        case Enfrentadas("RPP", "R"):  return &PESOS.FACTOR_RPP_R;
+        case Enfrentadas("QPP", "Q"):  return &PESOS.FACTOR_QPP_Q;
+        case Enfrentadas("N", "P"):    return &PESOS.FACTOR_N_P;
+        case Enfrentadas("B", "P"):    return &PESOS.FACTOR_B_P;
+        case Enfrentadas("N", "PP"):   return &PESOS.FACTOR_N_PP;
+        case Enfrentadas("B", "PP"):   return &PESOS.FACTOR_B_PP;
+        case Enfrentadas("NN", "P"):   return &PESOS.FACTOR_NN_P;
+        case Enfrentadas("Q", "RP"):   return &PESOS.FACTOR_Q_RP;
+        default:                       return nullptr;
     }
+    // clang-format on
 }
 
 // A side that leads by at most a minor piece and has no pawn left hardly ever wins.
@@ -102,11 +82,14 @@ int FinalesReconocidos(int pb, int cb, int ab, int tb, int db, int pn, int cn, i
 
     const std::uint64_t blancas = ClaveMaterial(pb, cb, ab, tb, db);
     const std::uint64_t negras  = ClaveMaterial(pn, cn, an, tn, dn);
-    int                 factor  = FactorOrdenado(Enfrentadas(blancas, negras));
-    if (factor == SIN_REGLA) factor = FactorOrdenado(Enfrentadas(negras, blancas));
-    if (factor != SIN_REGLA) return factor;
+    const int*          factor  = FactorOrdenado(Enfrentadas(blancas, negras));
+    if (factor == nullptr) factor = FactorOrdenado(Enfrentadas(negras, blancas));
 
     const int valorB = 3 * (cb + ab) + 5 * tb + 9 * db;
     const int valorN = 3 * (cn + an) + 5 * tn + 9 * dn;
-    return SoloUnMenorDeMas(pb, valorB, valorN) || SoloUnMenorDeMas(pn, valorN, valorB) ? FACTOR_MENOR : SIN_CAMBIO;
+    if (factor == nullptr && (SoloUnMenorDeMas(pb, valorB, valorN) || SoloUnMenorDeMas(pn, valorN, valorB)))
+        factor = &PESOS.FACTOR_MENOR;
+    if (factor == nullptr) return SIN_CAMBIO;
+    Trazar(*factor, 1, BLANCO, Acumulador::Factor);
+    return *factor;
 }

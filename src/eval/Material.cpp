@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "board/Bando.h"
+#include "eval/Par.h"
 
 namespace {
 
@@ -13,8 +13,7 @@ constexpr int MATERIAL_ALFIL   = 335;
 constexpr int MATERIAL_TORRE   = 500;
 constexpr int MATERIAL_DAMA    = 1000;
 
-constexpr int BONUS_PAREJA_ALFILES_OP      = 50;
-constexpr int BONUS_PAREJA_ALFILES_EG      = 60;
+constexpr Par BONUS_PAREJA_ALFILES         = {50, 60};
 constexpr int PENALIZACION_PAREJA_CABALLOS = 10;
 constexpr int PENALIZACION_PAREJA_TORRES   = 5;
 constexpr int PENALIZACION_DAMA_MENORES    = 5;  // for each enemy minor piece that can harass the queen
@@ -52,13 +51,15 @@ int Ajuste(const RegistroBando& propio, const RegistroBando& rival) {
     return ajuste;
 }
 
-void MaterialDe(RegistroBando& propio, const RegistroBando& rival) {
-    const int piezas = MATERIAL_PEON * propio.Peones + MATERIAL_CABALLO * propio.Caballos +
+template <int C>
+void MaterialDe() {
+    RegistroBando& propio = BandoDe<C>();
+    const int      piezas = MATERIAL_PEON * propio.Peones + MATERIAL_CABALLO * propio.Caballos +
                        MATERIAL_ALFIL * propio.Alfiles + MATERIAL_TORRE * propio.Torres + MATERIAL_DAMA * propio.Damas +
-                       Ajuste(propio, rival);
-    const bool pareja = propio.Alfiles > 1;
-    propio.Puntos_OP  = piezas + (pareja ? BONUS_PAREJA_ALFILES_OP : 0);
-    propio.Puntos_EG  = piezas + (pareja ? BONUS_PAREJA_ALFILES_EG : 0);
+                       Ajuste(propio, BandoDe<RIVAL<C>>());
+    propio.Puntos_OP = propio.Puntos_EG = 0;
+    Sumar<C>(piezas, piezas);
+    if (propio.Alfiles > 1) Sumar<C>(BONUS_PAREJA_ALFILES);
 }
 
 int Menores(const RegistroBando& bando) {
@@ -72,8 +73,8 @@ int FaseDe(const RegistroBando& bando) {
 }  // namespace
 
 void Material_Imbalance() {
-    MaterialDe(Blancas, Negras);
-    MaterialDe(Negras, Blancas);
+    MaterialDe<BLANCO>();
+    MaterialDe<NEGRO>();
 }
 
 int DesequilibrioPiezas() {

@@ -2,11 +2,9 @@
 // each property is worth is then added pawn by pawn.
 #include "eval/Peones.h"
 
-#include "board/Color.h"
-#include "board/Geometria.h"
 #include "eval/Espejo.h"
-#include "eval/EvalComun.h"
 #include "eval/Listas.h"
+#include "eval/Par.h"
 #include "eval/Tropismo.h"
 
 namespace {
@@ -78,13 +76,10 @@ constexpr int PENALIZACION_PEON_RETRASADO_MALUS[8] = { -5, -7, -9, -11, -11, -9,
 // clang-format on
 static_assert(PST_P_OP[64 + 48] == PST_P_OP[8]);  // a2 is to Black what a7 is to White
 
-constexpr int PENALIZACION_PEON_DOUBLED_OP   = 12;  // for each pawn of a file but one
-constexpr int PENALIZACION_PEON_DOUBLED_EG   = 24;
-constexpr int PENALIZACION_PEON_ISOLATED_OP  = 10;  // twice with an open file in front
-constexpr int PENALIZACION_PEON_ISOLATED_EG  = 20;
-constexpr int PENALIZACION_PEON_RETRASADO_OP = 8;  // only with an open file in front
-constexpr int PENALIZACION_PEON_RETRASADO_EG = 8;
-constexpr int BONUS_PEON_CENTRAL_AVANZADO    = 5;  // opening
+constexpr Par PENALIZACION_PEON_DOUBLED   = {12, 24};  // for each pawn of a file but one
+constexpr Par PENALIZACION_PEON_ISOLATED  = {10, 20};  // the opening half twice with an open file in front
+constexpr Par PENALIZACION_PEON_RETRASADO = {8, 8};    // the opening half only with an open file in front
+constexpr int BONUS_PEON_CENTRAL_AVANZADO = 5;         // opening
 
 constexpr float UN_TERCIO       = 0.33333334F;   // a candidate's part of the passed pawn's bonus
 constexpr float UN_TREINTAVO    = 0.033333335F;  // what each unit of the king's nearness takes off the bonus
@@ -169,7 +164,7 @@ bool EsImparable(int casilla, int rey_rival) {
 }
 
 template <int C>
-void EvaluarPasado(int casilla, bool rival_sin_piezas, RegistroBando& propio) {
+void EvaluarPasado(int casilla, bool rival_sin_piezas) {
     const int  rey_rival = PosicionReyDe<RIVAL<C>>();
     const int  fila      = FilaRelativa<C>(casilla);
     const int  delante   = casilla + ADELANTE<C>;
@@ -177,66 +172,54 @@ void EvaluarPasado(int casilla, bool rival_sin_piezas, RegistroBando& propio) {
     const int  factor    = bloqueado ? BLOQUEADO : LIBRE;
     const int  final     = BONUS_PASSED[PASADO_EG + fila];
     const int  frenado   = Truncar(TROPISMO_DISTANCIA[casilla][rey_rival] * final, UN_TREINTAVO);
-    propio.Puntos_OP += Porcentaje(BONUS_PASSED[fila], factor);
-    propio.Puntos_EG += Porcentaje(final - frenado, factor);
-
-    if (rival_sin_piezas && EsImparable<C>(casilla, rey_rival)) {
-        propio.Puntos_OP += BONUS_PEON_IMPARABLE[fila];
-        propio.Puntos_EG += BONUS_PEON_IMPARABLE[fila];
-    }
+    Sumar<C>(Porcentaje(BONUS_PASSED[fila], factor), Porcentaje(final - frenado, factor));
+    if (rival_sin_piezas && EsImparable<C>(casilla, rey_rival))
+        Sumar<C>(BONUS_PEON_IMPARABLE[fila], BONUS_PEON_IMPARABLE[fila]);
 }
 
 template <int C>
-void SumarTabla(Conjunto conjunto, const TablaEspejo& tabla_op, const TablaEspejo& tabla_eg, RegistroBando& propio) {
-    int op = 0;
-    int eg = 0;
+void SumarTabla(Conjunto conjunto, const TablaEspejo& tabla_op, const TablaEspejo& tabla_eg) {
     while (conjunto != 0) {
         const int casilla = SacarCasilla(conjunto) + MITAD<C>;
-        op += tabla_op[casilla];
-        eg += tabla_eg[casilla];
+        Sumar<C>(tabla_op[casilla], tabla_eg[casilla]);
     }
-    propio.Puntos_OP += op;
-    propio.Puntos_EG += eg;
 }
 
 // Doubled, isolated and backward pawns.
-void EvaluarDebilidades(const Estructura& e, RegistroBando& propio) {
-    const int doblados   = Cuantas(e.Doblados);
-    const int aislados   = Cuantas(e.Aislados);
-    const int retrasados = Cuantas(e.Retrasados);
-    propio.Puntos_OP -= PENALIZACION_PEON_DOUBLED_OP * doblados +
-                        PENALIZACION_PEON_ISOLATED_OP * (aislados + Cuantas(e.Aislados & e.Abiertos)) +
-                        PENALIZACION_PEON_RETRASADO_OP * Cuantas(e.Retrasados & e.Abiertos);
-    propio.Puntos_EG -= PENALIZACION_PEON_DOUBLED_EG * doblados + PENALIZACION_PEON_ISOLATED_EG * aislados +
-                        PENALIZACION_PEON_RETRASADO_EG * retrasados;
+template <int C>
+void EvaluarDebilidades(const Estructura& e) {
+    Sumar<C>(PENALIZACION_PEON_DOUBLED, -Cuantas(e.Doblados));
+    SumarApertura<C>(PENALIZACION_PEON_ISOLATED.OP, -Cuantas(e.Aislados) - Cuantas(e.Aislados & e.Abiertos));
+    SumarFinal<C>(PENALIZACION_PEON_ISOLATED.EG, -Cuantas(e.Aislados));
+    SumarApertura<C>(PENALIZACION_PEON_RETRASADO.OP, -Cuantas(e.Retrasados & e.Abiertos));
+    SumarFinal<C>(PENALIZACION_PEON_RETRASADO.EG, -Cuantas(e.Retrasados));
     for (Conjunto resto = e.Retrasados; resto != 0;)
-        propio.Puntos_OP += PENALIZACION_PEON_RETRASADO_MALUS[Columna(SacarCasilla(resto))];
+        SumarApertura<C>(PENALIZACION_PEON_RETRASADO_MALUS[Columna(SacarCasilla(resto))]);
 }
 
 template <int C>
-void EvaluarPeones(RegistroBando& propio) {
+void EvaluarPeones() {
     const Estructura e = Analizar<C>(Conjuntos[C].Peones, Conjuntos[RIVAL<C>].Peones);
 
-    EvaluarDebilidades(e, propio);
-    SumarTabla<C>(e.Falange, PST_BONUS_FALANGE_OP, PST_BONUS_FALANGE_EG, propio);
-    SumarTabla<C>(e.Defendidos & ~e.Falange, PST_BONUS_DEFENDED_OP, PST_BONUS_DEFENDED_EG, propio);
+    EvaluarDebilidades<C>(e);
+    SumarTabla<C>(e.Falange, PST_BONUS_FALANGE_OP, PST_BONUS_FALANGE_EG);
+    SumarTabla<C>(e.Defendidos & ~e.Falange, PST_BONUS_DEFENDED_OP, PST_BONUS_DEFENDED_EG);
     for (Conjunto resto = e.Candidatos; resto != 0;) {
         const int fila = FilaRelativa<C>(SacarCasilla(resto));
-        propio.Puntos_OP += Truncar(BONUS_PASSED[fila], UN_TERCIO);
-        propio.Puntos_EG += Truncar(BONUS_PASSED[PASADO_EG + fila], UN_TERCIO);
+        Sumar<C>(Truncar(BONUS_PASSED[fila], UN_TERCIO), Truncar(BONUS_PASSED[PASADO_EG + fila], UN_TERCIO));
     }
     const bool rival_sin_piezas = SinPiezas<RIVAL<C>>();
-    for (Conjunto resto = e.Pasados; resto != 0;) EvaluarPasado<C>(SacarCasilla(resto), rival_sin_piezas, propio);
+    for (Conjunto resto = e.Pasados; resto != 0;) EvaluarPasado<C>(SacarCasilla(resto), rival_sin_piezas);
 
-    SumarTabla<C>(e.Peones, PST_P_OP, PST_P_EG, propio);
-    propio.Puntos_OP += BONUS_PEON_CENTRAL_AVANZADO * Cuantas(e.Peones & CENTRO_AVANZADO<C>);
+    SumarTabla<C>(e.Peones, PST_P_OP, PST_P_EG);
+    SumarApertura<C>(BONUS_PEON_CENTRAL_AVANZADO, Cuantas(e.Peones & CENTRO_AVANZADO<C>));
 }
 
 }  // namespace
 
 void EvaluarPeonesB() {
-    EvaluarPeones<BLANCO>(Blancas);
+    EvaluarPeones<BLANCO>();
 }
 void EvaluarPeonesN() {
-    EvaluarPeones<NEGRO>(Negras);
+    EvaluarPeones<NEGRO>();
 }

@@ -2,12 +2,11 @@
 
 #include <array>
 
-#include "board/Color.h"
-#include "board/Geometria.h"
 #include "board/HacerMovimiento.h"
 #include "board/Jugada.h"
 #include "eval/Espejo.h"
 #include "eval/Listas.h"
+#include "eval/Par.h"
 #include "eval/Tropismo.h"
 #include "search/See.h"
 
@@ -29,16 +28,15 @@ constexpr int PST_R_EG[64] = {};  // in the endgame no square is better than ano
 
 constexpr int MOVILIDAD_EG                 = 16;  // start of the endgame half of BONUS_TORRE_MOVILIDAD
 constexpr int MOVILIDAD_MAX                = 14;  // squares a rook can reach
-constexpr int BONUS_TORRE_ABIERTO          = 14;  // both phases, as all bonuses without _OP and _EG
-constexpr int BONUS_FRENTE_A_DAMA          = 5;   // the first piece on the rook's file is the enemy queen
-constexpr int BONUS_TORRE_SEMI_ABIERTA     = 7;   // half-open file: for an enemy pawn in sight
-constexpr int BONUS_TORRE_SEMI_DEFENDIDA   = 5;   // ... that a pawn protects
-constexpr int BONUS_TORRE_SEPTIMA_OP       = 16;
-constexpr int BONUS_TORRE_SEPTIMA_EG       = 32;
-constexpr int BONUS_DOSTORRE_SEPTIMA_OP    = 8;  // for the pair
-constexpr int BONUS_DOSTORRE_SEPTIMA_EG    = 16;
-constexpr int PENALIZACION_TORRE_ATRAPADA  = 100;  // shut in by a bishop
-constexpr int PENALIZACION_TORRE_ATRAPADA2 = 180;  // shut in by a pawn
+constexpr Par BONUS_TORRE_ABIERTO          = {14, 14};
+constexpr Par BONUS_FRENTE_A_DAMA          = {5, 5};  // the first piece on the rook's file is the enemy queen
+constexpr Par BONUS_TORRE_SEMI_ABIERTA     = {7, 7};  // half-open file: for an enemy pawn in sight
+constexpr Par BONUS_TORRE_SEMI_DEFENDIDA   = {5, 5};  // ... that a pawn protects
+constexpr Par BONUS_TORRE_SEPTIMA          = {16, 32};
+constexpr Par BONUS_DOSTORRE_SEPTIMA       = {8, 16};     // for the pair
+constexpr Par PENALIZACION_TORRE_ATRAPADA  = {100, 100};  // shut in by a bishop
+constexpr Par PENALIZACION_TORRE_ATRAPADA2 = {180, 180};  // shut in by a pawn
+constexpr Par TROPISMO_TORRE               = {2, 1};      // weight of the nearness to the enemy king
 
 // Attack on the enemy king, in units of Ataque_Valor.
 constexpr int PESO_ZONA_REY     = 9;   // for each square of the king's zone; a check counts once more
@@ -114,42 +112,45 @@ void AnotarAtaqueTorre(const Vista& vista, RegistroBando& propio) {
     const int      rey    = PosicionReyDe<RIVAL<C>>();
     const Conjunto zona   = ATAQUES_REY[static_cast<std::size_t>(rey)] | (Bit(rey) & Ocupadas);
     const int      numero = Cuantas(vista.Todas & zona);
-    propio.Ataque_Valor += PESO_ZONA_REY * (numero + Cuantas(vista.Todas & Conjuntos[RIVAL<C>].Rey));
+    SumarAtaque<C>(PESO_ZONA_REY, numero + Cuantas(vista.Todas & Conjuntos[RIVAL<C>].Rey));
     propio.Ataque_Numero += numero != 0 ? 1 : 0;
-    if (JaqueConAtaque<C>(vista, propio)) propio.Ataque_Valor += PESO_JAQUE_ATAQUE;
+    if (JaqueConAtaque<C>(vista, propio)) SumarAtaque<C>(PESO_JAQUE_ATAQUE, 1);
 }
 
 template <int C>
-int PuntosPeonALaVista(int peon) {
-    return Contiene(Conjuntos[RIVAL<C>].Ataque_Peones, peon) ? BONUS_TORRE_SEMI_DEFENDIDA : BONUS_TORRE_SEMI_ABIERTA;
+void EvaluarPeonALaVista(int peon) {
+    const bool defendido = Contiene(Conjuntos[RIVAL<C>].Ataque_Peones, peon);
+    Sumar<C>(defendido ? BONUS_TORRE_SEMI_DEFENDIDA : BONUS_TORRE_SEMI_ABIERTA);
 }
 
 // Open and half-open files. On a half-open one the first enemy pawn in each direction counts, whatever stands between.
 template <int C>
-int PuntosColumna(int torre) {
+void EvaluarColumna(int torre) {
     const auto     casilla = static_cast<std::size_t>(torre);
     const Conjunto columna = ColumnaEntera(Columna(torre));
     const Conjunto rivales = Conjuntos[RIVAL<C>].Peones & columna;
-    if ((Conjuntos[C].Peones & columna) != 0) return 0;
-    if (rivales == 0) return BONUS_TORRE_ABIERTO;
+    if ((Conjuntos[C].Peones & columna) != 0) return;
+    if (rivales == 0) {
+        Sumar<C>(BONUS_TORRE_ABIERTO);
+        return;
+    }
 
     const Conjunto hacia_8 = rivales & RAYOS[casilla][DIR_MENOS_8];
     const Conjunto hacia_1 = rivales & RAYOS[casilla][DIR_MAS_8];
-    return (hacia_8 != 0 ? PuntosPeonALaVista<C>(PrimerObstaculo<DIR_MENOS_8>(hacia_8)) : 0) +
-           (hacia_1 != 0 ? PuntosPeonALaVista<C>(PrimerObstaculo<DIR_MAS_8>(hacia_1)) : 0);
+    if (hacia_8 != 0) EvaluarPeonALaVista<C>(PrimerObstaculo<DIR_MENOS_8>(hacia_8));
+    if (hacia_1 != 0) EvaluarPeonALaVista<C>(PrimerObstaculo<DIR_MAS_8>(hacia_1));
 }
 
 // A rook that has strayed in front of an enemy rook's pawn and cannot leave along its rank.
 template <int C>
-int PuntosAtrapada(int torre) {
+void EvaluarAtrapada(int torre) {
     int carcelero = VACIO;
     if (torre == En<C>("h2") && TableroGlobal.Casillas[En<C>("h3")] == PEON<RIVAL<C>>)
         carcelero = TableroGlobal.Casillas[En<C>("g2")];
     if (torre == En<C>("a2") && TableroGlobal.Casillas[En<C>("a3")] == PEON<RIVAL<C>>)
         carcelero = TableroGlobal.Casillas[En<C>("b2")];
-    if (carcelero == ALFIL<RIVAL<C>>) return -PENALIZACION_TORRE_ATRAPADA;
-    if (carcelero == PEON<RIVAL<C>>) return -PENALIZACION_TORRE_ATRAPADA2;
-    return 0;
+    if (carcelero == ALFIL<RIVAL<C>>) Sumar<C>(PENALIZACION_TORRE_ATRAPADA, -1);
+    if (carcelero == PEON<RIVAL<C>>) Sumar<C>(PENALIZACION_TORRE_ATRAPADA2, -1);
 }
 
 // On the seventh rank the rook cuts the enemy king off, or waits for the pawns that will promote behind it: the
@@ -167,29 +168,24 @@ bool EvaluarUnaTorre(int torre, RegistroBando& propio, const RegistroBando& riva
     AnotarAtaqueTorre<C>(vista, propio);
 
     const auto movilidad = static_cast<std::size_t>(Cuantas(vista.Todas & ~Conjuntos[C].Peones));
-    propio.Movilidad_OP += BONUS_TORRE_MOVILIDAD[movilidad];
-    propio.Movilidad_EG += BONUS_TORRE_MOVILIDAD[MOVILIDAD_EG + movilidad];
-    const int tropismo = TROPISMO_DISTANCIA[torre][PosicionReyDe<RIVAL<C>>()];
-    propio.Tropismo_OP += 2 * tropismo;
-    propio.Tropismo_EG += tropismo;
+    SumarMovilidad<C>(BONUS_TORRE_MOVILIDAD[movilidad], BONUS_TORRE_MOVILIDAD[MOVILIDAD_EG + movilidad]);
+    SumarTropismo<C>(TROPISMO_TORRE, TROPISMO_DISTANCIA[torre][PosicionReyDe<RIVAL<C>>()]);
+    Sumar<C>(PST_R_OP[torre + MITAD<C>], PST_R_EG[torre]);
+    Sumar<C>(BONUS_FRENTE_A_DAMA, Cuantas(vista.Vertical & Conjuntos[RIVAL<C>].Damas));
+    EvaluarColumna<C>(torre);
+    EvaluarAtrapada<C>(torre);
 
-    const bool septima     = DominaSeptima<C>(torre, rival);
-    const int  ambas_fases = PuntosColumna<C>(torre) + PuntosAtrapada<C>(torre) +
-                            BONUS_FRENTE_A_DAMA * Cuantas(vista.Vertical & Conjuntos[RIVAL<C>].Damas);
-    propio.Puntos_OP += PST_R_OP[torre + MITAD<C>] + ambas_fases + (septima ? BONUS_TORRE_SEPTIMA_OP : 0);
-    propio.Puntos_EG += PST_R_EG[torre] + ambas_fases + (septima ? BONUS_TORRE_SEPTIMA_EG : 0);
+    const bool septima = DominaSeptima<C>(torre, rival);
+    if (septima) Sumar<C>(BONUS_TORRE_SEPTIMA);
     return septima;
 }
 
 template <int C>
 void EvaluarTorres(RegistroBando& propio, const RegistroBando& rival) {
     int en_septima = 0;
-    for (int i = 0; i < propio.ListaTorres.Numero; ++i)
-        if (EvaluarUnaTorre<C>(propio.ListaTorres.Casillas[i], propio, rival)) ++en_septima;
-    if (en_septima >= 2) {
-        propio.Puntos_OP += BONUS_DOSTORRE_SEPTIMA_OP;
-        propio.Puntos_EG += BONUS_DOSTORRE_SEPTIMA_EG;
-    }
+    for (Conjunto torres = Conjuntos[C].Torres; torres != 0;)
+        if (EvaluarUnaTorre<C>(SacarCasilla(torres), propio, rival)) ++en_septima;
+    if (en_septima >= 2) Sumar<C>(BONUS_DOSTORRE_SEPTIMA);
 }
 
 }  // namespace

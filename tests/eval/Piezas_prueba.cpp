@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "eval/Listas.h"
-#include "eval/Movilidad.h"
+#include "eval/Pesos.h"
 #include "eval/PosicionPrueba.h"
 #include "eval/Torres.h"
 
@@ -132,25 +132,24 @@ TEST_F(Piezas, ListasYMapasComoElRecorridoPasoAPaso) {
 struct CasoMovilidad {
     const char* Nombre;
     const char* Fen;  // White has the piece alone with its king
-    const int*  Tabla;
-    int         Mitad;
+    const Par*  Tabla;
     int         Casillas;
 };
 
 TEST_F(Piezas, MovilidadPorCasillasQueNoCubrenLosPeones) {
-    const int* const    caballo = BONUS_CABALLO_MOVILIDAD;
-    const int* const    alfil   = BONUS_ALFIL_MOVILIDAD;
-    const int* const    dama    = BONUS_DAMA_MOVILIDAD;
+    const Par* const    caballo = PESOS.BONUS_CABALLO_MOVILIDAD;
+    const Par* const    alfil   = PESOS.BONUS_ALFIL_MOVILIDAD;
+    const Par* const    dama    = PESOS.BONUS_DAMA_MOVILIDAD;
     const CasoMovilidad casos[] = {
-        {"knight in the centre", "7k/8/8/8/3N4/8/8/K7 w - - 0 1", caballo, MITAD_MENORES, 8},
-        {"two jumps covered by a pawn", "7k/3p4/8/8/3N4/8/8/K7 w - - 0 1", caballo, MITAD_MENORES, 6},
-        {"taking a covered pawn does not count", "7k/3p4/2p5/8/3N4/8/8/K7 w - - 0 1", caballo, MITAD_MENORES, 5},
-        {"own pawn and own king block", "7k/8/8/8/3N4/5P2/4K3/8 w - - 0 1", caballo, MITAD_MENORES, 6},
-        {"bishop on the long diagonal", "7k/8/8/8/3B4/8/8/K7 w - - 0 1", alfil, MITAD_MENORES, 12},
-        {"bishop behind own pawns", "7k/8/8/8/8/1P1P4/2B5/K7 w - - 0 1", alfil, MITAD_MENORES, 2},
-        {"an own rook counts as a square", "7k/8/8/8/8/1P6/2B5/KR1R4 w - - 0 1", alfil, MITAD_MENORES, 7},
-        {"queen in the centre", "7k/8/8/8/3Q4/8/8/1K6 w - - 0 1", dama, MITAD_DAMA, 27},
-        {"queen, a pawn covers a square", "7k/8/4p3/8/3Q4/8/8/1K6 w - - 0 1", dama, MITAD_DAMA, 26},
+        {"knight in the centre", "7k/8/8/8/3N4/8/8/K7 w - - 0 1", caballo, 8},
+        {"two jumps covered by a pawn", "7k/3p4/8/8/3N4/8/8/K7 w - - 0 1", caballo, 6},
+        {"taking a covered pawn does not count", "7k/3p4/2p5/8/3N4/8/8/K7 w - - 0 1", caballo, 5},
+        {"own pawn and own king block", "7k/8/8/8/3N4/5P2/4K3/8 w - - 0 1", caballo, 6},
+        {"bishop on the long diagonal", "7k/8/8/8/3B4/8/8/K7 w - - 0 1", alfil, 12},
+        {"bishop behind own pawns", "7k/8/8/8/8/1P1P4/2B5/K7 w - - 0 1", alfil, 2},
+        {"an own rook counts as a square", "7k/8/8/8/8/1P6/2B5/KR1R4 w - - 0 1", alfil, 7},
+        {"queen in the centre", "7k/8/8/8/3Q4/8/8/1K6 w - - 0 1", dama, 27},
+        {"queen, a pawn covers a square", "7k/8/4p3/8/3Q4/8/8/1K6 w - - 0 1", dama, 26},
     };
     for (const CasoMovilidad& caso : casos)
         for (const bool reflejada : {false, true}) {
@@ -159,20 +158,19 @@ TEST_F(Piezas, MovilidadPorCasillasQueNoCubrenLosPeones) {
             LimpiarPuntuacion(0);
             EvaluarPiezasTableroJuego();
             RegistroBando& bando = reflejada ? Negras : Blancas;
-            EXPECT_EQ(bando.Movilidad_OP, caso.Tabla[caso.Casillas]);
-            EXPECT_EQ(bando.Movilidad_EG, caso.Tabla[caso.Mitad + caso.Casillas]);
+            EXPECT_EQ(bando.Movilidad_OP, caso.Tabla[caso.Casillas].OP);
+            EXPECT_EQ(bando.Movilidad_EG, caso.Tabla[caso.Casillas].EG);
         }
 }
 
-TEST_F(Piezas, LaMovilidadNuncaResta) {
-    for (const auto& [tabla, mitad, maxima] : {std::tuple{BONUS_CABALLO_MOVILIDAD, MITAD_MENORES, 8},
-                                               {BONUS_ALFIL_MOVILIDAD, MITAD_MENORES, 13},
-                                               {BONUS_DAMA_MOVILIDAD, MITAD_DAMA, 27}})
-        for (const int inicio : {0, mitad}) {
-            EXPECT_LT(tabla[inicio], 0);
-            EXPECT_GT(tabla[inicio + maxima], 0);
-            EXPECT_TRUE(std::is_sorted(tabla + inicio, tabla + inicio + maxima + 1));
-        }
+TEST_F(Piezas, LaMovilidadCompletaValeMasQueNinguna) {
+    for (const auto& [ninguna, todas] :
+         {std::pair{PESOS.BONUS_CABALLO_MOVILIDAD[0], std::end(PESOS.BONUS_CABALLO_MOVILIDAD)[-1]},
+          {PESOS.BONUS_ALFIL_MOVILIDAD[0], std::end(PESOS.BONUS_ALFIL_MOVILIDAD)[-1]},
+          {PESOS.BONUS_DAMA_MOVILIDAD[0], std::end(PESOS.BONUS_DAMA_MOVILIDAD)[-1]}}) {
+        EXPECT_LT(ninguna.OP, todas.OP);
+        EXPECT_LT(ninguna.EG, todas.EG);
+    }
 }
 
 struct CasoPareja {
