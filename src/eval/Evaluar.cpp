@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "board/Puntuacion.h"
 #include "eval/Amenazas.h"
 #include "eval/Apertura.h"
 #include "eval/Finales.h"
@@ -13,7 +14,6 @@
 #include "eval/Piezas.h"
 #include "eval/SeguridadRey.h"
 #include "eval/Torres.h"
-#include "search/Puntuacion.h"
 #include "search/Transposicion.h"
 
 int AJUSTE_MOB[2];

@@ -7,6 +7,7 @@
 #include "board/Generacion.h"
 #include "board/HacerMovimiento.h"
 #include "board/Jugada.h"
+#include "board/Puntuacion.h"
 #include "eval/Evaluar.h"
 #include "plataforma/Reloj.h"
 #include "search/AlphaBeta.h"
@@ -15,7 +16,6 @@
 #include "search/Jaque.h"
 #include "search/LineaPrincipal.h"
 #include "search/Lmr.h"
-#include "search/Puntuacion.h"
 #include "search/Transposicion.h"
 #include "tablebases/Gaviota.h"
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "search/Puntuacion.h"
+#include "board/Puntuacion.h"
 
 int           Historico_Bueno[CODIGOS][64];
 int           Max_Historico = 0;

@@ -5,10 +5,10 @@
 
 #include "board/EstadoMotor.h"
 #include "board/Jugada.h"
+#include "board/Puntuacion.h"
 #include "plataforma/Reloj.h"
 #include "plataforma/Salida.h"
 #include "search/LineaPrincipal.h"
-#include "search/Puntuacion.h"
 #include "search/Transposicion.h"
 #include "tablebases/Gaviota.h"
 

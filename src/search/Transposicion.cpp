@@ -5,9 +5,9 @@
 #include <limits>
 
 #include "board/EstadoMotor.h"
+#include "board/Puntuacion.h"
 #include "plataforma/Memoria.h"
 #include "plataforma/Salida.h"
-#include "search/Puntuacion.h"
 
 RegistroTT_Opciones TT_Opciones;
 CuboTransposicion*  TT_Datos = nullptr;

@@ -3,7 +3,7 @@
 #include "board/Bando.h"
 #include "board/Color.h"
 #include "board/EstadoMotor.h"
-#include "search/Puntuacion.h"
+#include "board/Puntuacion.h"
 #include "tablebases/Flip3.h"
 #include "tablebases/Gaviota.h"
 #include "tablebases/GaviotaEntradas.h"

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <random>
 
+#include "board/Puntuacion.h"
 #include "eval/Amenazas.h"
 #include "eval/Apertura.h"
 #include "eval/Finales.h"
@@ -13,7 +14,6 @@
 #include "eval/SeguridadRey.h"
 #include "eval/Torres.h"
 #include "eval/Tropismo.h"
-#include "search/Puntuacion.h"
 #include "search/Transposicion.h"
 
 namespace {

@@ -4,9 +4,9 @@
 #include <cstdlib>
 #include <random>
 
+#include "board/Puntuacion.h"
 #include "eval/PosicionPrueba.h"
 #include "eval/RegistroFinal.h"
-#include "search/Puntuacion.h"
 
 namespace {
 

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "board/Puntuacion.h"
 #include "search/Historico.h"
 #include "search/Lmr.h"
-#include "search/Puntuacion.h"
 
 static std::uint32_t Callada(int pieza, int desde, int hasta) {
     return CrearMovimiento(desde, hasta, pieza, NINGUNA, NINGUNA);

@@ -1,7 +1,7 @@
 #include "search/Transposicion.h"
 
+#include "board/Puntuacion.h"
 #include "search/Ayudas.h"
-#include "search/Puntuacion.h"
 
 struct Leida {
     int           Decide     = 0;

@@ -4,7 +4,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "search/Puntuacion.h"
+#include "board/Puntuacion.h"
 #include "tablebases/Biblioteca.h"
 
 static const std::string FICHERO = GAVIOTA_DOBLE "/gtbprobe_x64.dll";

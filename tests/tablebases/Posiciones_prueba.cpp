@@ -1,7 +1,7 @@
 // Every 3-men position with a pawn, a rook or a queen, against an analysis of our own.
 #include <algorithm>
 
-#include "search/Puntuacion.h"
+#include "board/Puntuacion.h"
 #include "tablebases/Analisis.h"
 #include "tablebases/Biblioteca.h"
 
