@@ -6,14 +6,15 @@
 #include "board/Puntuacion.h"
 #include "eval/Amenazas.h"
 #include "eval/Apertura.h"
-#include "eval/Finales.h"
-#include "eval/FinalesDificiles.h"
 #include "eval/Material.h"
 #include "eval/Par.h"
 #include "eval/Peones.h"
 #include "eval/Piezas.h"
 #include "eval/SeguridadRey.h"
 #include "eval/Torres.h"
+#include "eval/finales/Dificiles.h"
+#include "eval/finales/Kpk.h"
+#include "eval/finales/Reconocidos.h"
 #include "search/Transposicion.h"
 
 int AJUSTE_MOB[2];
@@ -27,7 +28,6 @@ constexpr int   PESO_TROPISMO    = 20;
 constexpr Par   BONUS_TURNO      = {5, 10};  // for the right to move
 constexpr int   FASE_FINAL       = 9;        // the recognisers of endings are asked up to this phase
 constexpr int   ATAQUE_VALOR_MAX = 399;      // last entry of KING_ATTACK_MULTI
-constexpr int   SIN_CAMBIO       = 100;      // percent, FinalesReconocidos
 constexpr int   FINAL_TABLAS     = 0;
 constexpr float INVERSO_FASE_MAX = 0.041666668F;
 
@@ -39,11 +39,6 @@ int DesdeTurno(int puntos) {
 EntradaCache* EntradaDeCache() {
     if (TT_Cache == nullptr || TT_Opciones.MegasCache == 0) return nullptr;
     return &TT_Cache[TableroGlobal.Key % TT_Opciones.NumeroCache];
-}
-
-int FactorFinal() {
-    return FinalesReconocidos(Blancas.Peones, Blancas.Caballos, Blancas.Alfiles, Blancas.Torres, Blancas.Damas,
-                              Negras.Peones, Negras.Caballos, Negras.Alfiles, Negras.Torres, Negras.Damas);
 }
 
 // What the endgame knowledge answers by itself, for the side to move, or NO_RECONOCIDO.
@@ -132,5 +127,5 @@ void Iniciar_Asimetrico() {
 
 void Iniciar_Evaluacion() {
     Iniciar_SeguridadRey();
-    Iniciar_Finales();
+    IniciarKpk();
 }

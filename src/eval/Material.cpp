@@ -6,13 +6,6 @@
 
 namespace {
 
-// Centipawns, alike in the opening and the endgame.
-constexpr int MATERIAL_PEON    = 100;
-constexpr int MATERIAL_CABALLO = 325;
-constexpr int MATERIAL_ALFIL   = 335;
-constexpr int MATERIAL_TORRE   = 500;
-constexpr int MATERIAL_DAMA    = 1000;
-
 constexpr Par BONUS_PAREJA_ALFILES         = {50, 60};
 constexpr int PENALIZACION_PAREJA_CABALLOS = 10;
 constexpr int PENALIZACION_PAREJA_TORRES   = 5;
@@ -54,9 +47,9 @@ int Ajuste(const RegistroBando& propio, const RegistroBando& rival) {
 template <int C>
 void MaterialDe() {
     RegistroBando& propio = BandoDe<C>();
-    const int      piezas = MATERIAL_PEON * propio.Peones + MATERIAL_CABALLO * propio.Caballos +
-                       MATERIAL_ALFIL * propio.Alfiles + MATERIAL_TORRE * propio.Torres + MATERIAL_DAMA * propio.Damas +
-                       Ajuste(propio, BandoDe<RIVAL<C>>());
+    const int      piezas = MATERIAL[PEON_B] * propio.Peones + MATERIAL[CABALLO_B] * propio.Caballos +
+                       MATERIAL[ALFIL_B] * propio.Alfiles + MATERIAL[TORRE_B] * propio.Torres +
+                       MATERIAL[DAMA_B] * propio.Damas + Ajuste(propio, BandoDe<RIVAL<C>>());
     propio.Puntos_OP = propio.Puntos_EG = 0;
     Sumar<C>(piezas, piezas);
     if (propio.Alfiles > 1) Sumar<C>(BONUS_PAREJA_ALFILES);

@@ -1,6 +1,10 @@
 // Material: what the pieces of a side are worth by themselves, together and against the opponent's.
 #pragma once
 
+// Centipawns by the white piece code, pawn to queen, alike in the opening and the endgame. Exchanges are counted with
+// values of their own.
+constexpr int MATERIAL[] = {0, 100, 325, 335, 500, 1000};
+
 constexpr int FASE_MAX = 24;  // game phase with all pieces on the board
 
 // Puts the material of each side, with its adjustments, into Puntos_OP and Puntos_EG, over whatever they held.

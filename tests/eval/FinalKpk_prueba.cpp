@@ -1,4 +1,4 @@
-#include "eval/FinalKpk.h"
+#include "eval/finales/Kpk.h"
 
 #include <gtest/gtest.h>
 

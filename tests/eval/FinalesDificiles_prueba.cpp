@@ -1,4 +1,4 @@
-#include "eval/FinalesDificiles.h"
+#include "eval/finales/Dificiles.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -6,7 +6,6 @@
 
 #include "board/Puntuacion.h"
 #include "eval/PosicionPrueba.h"
-#include "eval/RegistroFinal.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "eval/Finales.h"
+#include "eval/finales/Reconocidos.h"
 
 #include <gtest/gtest.h>
 

@@ -1,13 +1,9 @@
-#include "eval/Finales.h"
+#include "eval/finales/Reconocidos.h"
 
-#include <cstdint>
-
-#include "eval/ClaveMaterial.h"
 #include "eval/Pesos.h"
 
 namespace {
 
-constexpr int SIN_CAMBIO       = 100;
 constexpr int TABLAS_MUERTAS   = 0;
 constexpr int PIEZAS_CON_REGLA = 5;  // no rule names more pieces, or more pawns, than these on the board
 constexpr int PEONES_CON_REGLA = 2;
@@ -92,4 +88,9 @@ int FinalesReconocidos(int pb, int cb, int ab, int tb, int db, int pn, int cn, i
     if (factor == nullptr) return SIN_CAMBIO;
     Trazar(*factor, 1, BLANCO, Acumulador::Factor);
     return *factor;
+}
+
+int FactorFinal() {
+    return FinalesReconocidos(Blancas.Peones, Blancas.Caballos, Blancas.Alfiles, Blancas.Torres, Blancas.Damas,
+                              Negras.Peones, Negras.Caballos, Negras.Alfiles, Negras.Torres, Negras.Damas);
 }

@@ -1,16 +1,11 @@
-#include "eval/FinalesDificiles.h"
+#include "eval/finales/Dificiles.h"
 
 #include <cstdint>
 
 #include "board/Color.h"
-#include "eval/ClaveMaterial.h"
-#include "eval/FinalDamaPeon.h"
-#include "eval/FinalFortalezas.h"
-#include "eval/FinalKpk.h"
-#include "eval/FinalMates.h"
-#include "eval/FinalTorrePeon.h"
-#include "eval/Finales.h"
-#include "eval/RegistroFinal.h"
+#include "board/Conjunto.h"
+#include "eval/Espejo.h"
+#include "eval/finales/Reconocidos.h"
 
 namespace {
 
@@ -23,6 +18,34 @@ template <int C>
 std::uint64_t ClaveDe() {
     const RegistroBando& bando = BandoDe<C>();
     return ClaveMaterial(bando.Peones, bando.Caballos, bando.Alfiles, bando.Torres, bando.Damas);
+}
+
+template <int C, int FUERTE>
+void AgregarPiezas(RegistroFinal& pos) {
+    constexpr int RECODIFICA = (C == FUERTE ? 0 : DESFASE_NEGRO) - CODIGO_BASE<C>;
+    Conjunto      propias    = CasillasDe<C>();
+    while (propias != 0) {
+        const int casilla = SacarCasillaEnOrden<C>(propias);
+        const int codigo  = TableroGlobal.Casillas[casilla] + RECODIFICA;
+        if (codigo <= 0 || codigo >= CODIGOS) continue;
+        pos.Casillas[codigo][pos.Numero[codigo]++] = static_cast<std::uint8_t>(Relativa<FUERTE>(casilla));
+    }
+}
+
+template <int FUERTE>
+void Orientar(RegistroFinal& pos) {
+    pos.MueveFuerte = TableroGlobal.Turno == FUERTE;
+    AgregarPiezas<FUERTE, FUERTE>(pos);
+    AgregarPiezas<RIVAL<FUERTE>, FUERTE>(pos);
+}
+
+// Fills the record from TableroGlobal with the given colour as the stronger side.
+void OrientarFinal(int fuerte, RegistroFinal& pos) {
+    pos = {};
+    if (fuerte == BLANCO)
+        Orientar<BLANCO>(pos);
+    else
+        Orientar<NEGRO>(pos);
 }
 
 // Material decides alone that nothing but the advance of the mate is left to judge.
@@ -59,11 +82,6 @@ int Consultar(Evaluador evaluador, int fuerte) {
     return pos.MueveFuerte ? puntos : -puntos;
 }
 
-bool SinCambioPorMaterial() {
-    return FinalesReconocidos(Blancas.Peones, Blancas.Caballos, Blancas.Alfiles, Blancas.Torres, Blancas.Damas,
-                              Negras.Peones, Negras.Caballos, Negras.Alfiles, Negras.Torres, Negras.Damas) == 100;
-}
-
 }  // namespace
 
 int EvaluarFinalesDificiles() {
@@ -76,11 +94,7 @@ int EvaluarFinalesDificiles() {
 
     if (SinPeones(blancas) == Fuerzas("B") && SinPeones(negras) == Fuerzas("B"))
         return Consultar(EvaluarAlfilesDistintoColor, BLANCO);
-    if (PeonesDe(blancas) != 0 || PeonesDe(negras) != 0 || !SinCambioPorMaterial()) return NO_RECONOCIDO;
+    if (PeonesDe(blancas) != 0 || PeonesDe(negras) != 0 || FactorFinal() != SIN_CAMBIO) return NO_RECONOCIDO;
     puntos = Consultar(EvaluarSinPeones, BLANCO);
     return puntos != NO_RECONOCIDO ? puntos : Consultar(EvaluarSinPeones, NEGRO);
-}
-
-void Iniciar_Finales() {
-    IniciarKpk();
 }

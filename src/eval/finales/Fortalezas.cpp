@@ -1,11 +1,10 @@
-#include "eval/FinalFortalezas.h"
-
+// Endings that material alone overrates: fortresses of the weaker side and opposite-coloured bishops.
 #include <algorithm>
 #include <cstddef>
 
 #include "eval/Espejo.h"
-#include "eval/FinalesDificiles.h"
 #include "eval/Pesos.h"
+#include "eval/finales/Evaluadores.h"
 
 namespace {
 

@@ -1,12 +1,10 @@
-#include "eval/FinalMates.h"
-
+// Mating a bare king, and the wins of heavy pieces that start with driving the king to the edge.
 #include <algorithm>
 #include <cstddef>
 
-#include "eval/FinalFortalezas.h"
-#include "eval/FinalKpk.h"
-#include "eval/FinalesDificiles.h"
 #include "eval/Pesos.h"
+#include "eval/finales/Evaluadores.h"
+#include "eval/finales/Kpk.h"
 
 namespace {
 

@@ -1,8 +1,20 @@
-// The material of an ending as one number, for telling endings apart with a single comparison.
+// What the piece counts alone tell about an ending.
 #pragma once
 
 #include <cstdint>
 
+constexpr int SIN_CAMBIO = 100;  // percentage of a score that leaves it as it is
+
+// Arguments: white pawns, knights, bishops, rooks and queens, then Black's. Returns the percentage of the normal
+// score that the material deserves, whoever stands better: 0 = dead draw, SIN_CAMBIO = no special knowledge. It is 0
+// only where neither side can force a win, and exchanging the colours returns the same. Any counts of 0 or more are
+// accepted.
+int FinalesReconocidos(int pb, int cb, int ab, int tb, int db, int pn, int cn, int an, int tn, int dn);
+
+// The same for the pieces of Blancas and Negras.
+int FactorFinal();
+
+// The material of a side as one number, for telling endings apart with a single comparison.
 constexpr int CUENTA_MAX = 15;  // larger counts are kept as this one; no ending that has a rule comes near it
 
 constexpr std::uint64_t CuentaEnClave(int cuenta, int lugar) {
