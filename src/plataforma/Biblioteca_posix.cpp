@@ -4,7 +4,7 @@
 
 #include "plataforma/Biblioteca.h"
 
-// A bare file name is looked for in the working directory first: dlopen alone searches only the system's folders.
+// dlopen looks for a bare name among the system's libraries, for a path just there.
 static void* CargarDeDirectorioActual(const char* nombre) {
     char      ruta[512];
     const int letras = std::snprintf(ruta, sizeof ruta, "./%s", nombre);
@@ -12,9 +12,10 @@ static void* CargarDeDirectorioActual(const char* nombre) {
     return dlopen(ruta, RTLD_NOW | RTLD_LOCAL);
 }
 
-void* CargarBiblioteca(const char* nombre) {
-    void* const biblioteca = nombre[0] == '/' ? nullptr : CargarDeDirectorioActual(nombre);
-    return biblioteca != nullptr ? biblioteca : dlopen(nombre, RTLD_NOW | RTLD_LOCAL);
+void* CargarBiblioteca(const char* nombre, const char* instalada) {
+    void* biblioteca = CargarDeDirectorioActual(nombre);
+    if (biblioteca == nullptr) biblioteca = dlopen(nombre, RTLD_NOW | RTLD_LOCAL);
+    return biblioteca != nullptr ? biblioteca : dlopen(instalada, RTLD_NOW | RTLD_LOCAL);
 }
 
 void* BuscarSimbolo(void* biblioteca, const char* nombre) {

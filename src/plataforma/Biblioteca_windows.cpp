@@ -2,7 +2,8 @@
 
 #include "plataforma/Biblioteca.h"
 
-void* CargarBiblioteca(const char* nombre) {
+// Nobody installs libraries under other names here.
+void* CargarBiblioteca(const char* nombre, const char* /*instalada*/) {
     return LoadLibraryA(nombre);
 }
 

@@ -3,16 +3,13 @@
 #include <cstring>
 
 #include "plataforma/Biblioteca.h"
-#include "plataforma/NombreGaviota.h"
 #include "plataforma/Salida.h"
 #include "tablebases/GaviotaEntradas.h"
 #include "tablebases/GaviotaTablas.h"
 
 constexpr char NOMBRE_BIBLIOTECA[] = "gtbprobe_x64.dll";  // the name of every message, whichever file was found
 
-constexpr char RUTA_INICIAL[]     = "empty";
-constexpr int  COMPRESION_INICIAL = 4;
-constexpr int  CACHE_INICIAL      = 32;  // megabytes
+constexpr char NOMBRE_INSTALADO[] = "libgaviotatb.so.1";  // as packages for users install it, without the bare name
 constexpr int  VERBOSIDAD         = 1;
 constexpr int  FRACCION_WDL       = 16;
 
@@ -23,10 +20,10 @@ static void* gtb_hmod;  // the loaded library; stays set when it lacks a functio
 void IniciarOpcionesGaviota() {
     RegistroGaviota& g = tbprobe_Gaviota;
     g.Usar             = 0;
-    std::memcpy(g.Ruta, RUTA_INICIAL, sizeof RUTA_INICIAL);
-    g.Compresion  = COMPRESION_INICIAL;
+    std::memcpy(g.Ruta, TB_RUTA_VALOR, sizeof TB_RUTA_VALOR);
+    g.Compresion  = TB_COMPRESION_VALOR;
     g.Verbosidad  = VERBOSIDAD;
-    g.Cache       = CACHE_INICIAL;
+    g.Cache       = TB_CACHE_VALOR;
     g.FraccionWdl = FRACCION_WDL;
 }
 
@@ -42,9 +39,7 @@ void ActualizarGaviota() {
 // A library that is still loaded, incomplete or not freed, is taken as it is: loading it again would only pile up
 // references.
 static void CargarFichero() {
-    if (gtb_hmod == nullptr) gtb_hmod = CargarBiblioteca(NOMBRE_BIBLIOTECA);
-    if (gtb_hmod == nullptr && NOMBRE_INSTALADO_GAVIOTA != nullptr)
-        gtb_hmod = CargarBiblioteca(NOMBRE_INSTALADO_GAVIOTA);
+    if (gtb_hmod == nullptr) gtb_hmod = CargarBiblioteca(NOMBRE_BIBLIOTECA, NOMBRE_INSTALADO);
 }
 
 // Both calls of each pair are made: "restart" puts right a library that has been used before, "init" starts it.

@@ -6,6 +6,13 @@
 
 #include "tablebases/GaviotaTablas.h"
 
+// The options: start values and limits.
+constexpr char TB_RUTA_VALOR[]     = "empty";
+constexpr int  TB_CACHE_VALOR      = 32;    // megabytes
+constexpr int  TB_CACHE_TOPE       = 1015;  // from here on the start value is taken instead
+constexpr int  TB_COMPRESION_VALOR = 4;
+constexpr int  TB_COMPRESION_MAX   = 9;
+
 // Bits of RegistroGaviota::Disponibilidad. "Some" tables of a set are enough to probe it: a position whose table
 // is missing gets no answer.
 enum DisponibilidadGaviota : int {

@@ -1,5 +1,7 @@
 #include "tablebases/GaviotaEntradas.h"
 
+#include <type_traits>
+
 #include "plataforma/Biblioteca.h"
 
 namespace gtb {
@@ -25,55 +27,52 @@ const char** (*tbpaths_done)(const char**);
 const char* (*tbpaths_getmain)();
 }  // namespace gtb
 
-template <typename Funcion>
-static bool Buscar(void* biblioteca, const char* nombre, Funcion*& entrada) {
-    entrada = reinterpret_cast<Funcion*>(BuscarSimbolo(biblioteca, nombre));
-    return entrada != nullptr;
+template <auto& Entrada>
+static void Poner(void* simbolo) {
+    Entrada = reinterpret_cast<std::remove_reference_t<decltype(Entrada)>>(simbolo);
 }
 
-// All twenty are demanded, those that are never called too: a library without them is another version.
+struct EntradaGaviota {
+    const char* Nombre;
+    void (*Poner)(void* simbolo);
+};
+
+// All are demanded, those that are never called too: a library without them is another version.
+static const EntradaGaviota ENTRADAS[] = {
+    {"tb_init", Poner<gtb::tb_init>},
+    {"tb_restart", Poner<gtb::tb_restart>},
+    {"tb_done", Poner<gtb::tb_done>},
+    {"tb_probe_hard", Poner<gtb::tb_probe_hard>},
+    {"tb_probe_soft", Poner<gtb::tb_probe_soft>},
+    {"tb_probe_WDL_hard", Poner<gtb::tb_probe_WDL_hard>},
+    {"tb_probe_WDL_soft", Poner<gtb::tb_probe_WDL_soft>},
+    {"tb_is_initialized", Poner<gtb::tb_is_initialized>},
+    {"tb_availability", Poner<gtb::tb_availability>},
+    {"tb_indexmemory", Poner<gtb::tb_indexmemory>},
+    {"tbcache_init", Poner<gtb::tbcache_init>},
+    {"tbcache_restart", Poner<gtb::tbcache_restart>},
+    {"tbcache_done", Poner<gtb::tbcache_done>},
+    {"tbcache_is_on", Poner<gtb::tbcache_is_on>},
+    {"tbcache_flush", Poner<gtb::tbcache_flush>},
+    {"tbstats_reset", Poner<gtb::tbstats_reset>},
+    {"tbpaths_init", Poner<gtb::tbpaths_init>},
+    {"tbpaths_add", Poner<gtb::tbpaths_add>},
+    {"tbpaths_done", Poner<gtb::tbpaths_done>},
+    {"tbpaths_getmain", Poner<gtb::tbpaths_getmain>},
+};
+
 int BuscarEntradas(void* biblioteca) {
-    const bool completa =
-        Buscar(biblioteca, "tb_init", gtb::tb_init) && Buscar(biblioteca, "tb_restart", gtb::tb_restart) &&
-        Buscar(biblioteca, "tb_done", gtb::tb_done) && Buscar(biblioteca, "tb_probe_hard", gtb::tb_probe_hard) &&
-        Buscar(biblioteca, "tb_probe_soft", gtb::tb_probe_soft) &&
-        Buscar(biblioteca, "tb_probe_WDL_hard", gtb::tb_probe_WDL_hard) &&
-        Buscar(biblioteca, "tb_probe_WDL_soft", gtb::tb_probe_WDL_soft) &&
-        Buscar(biblioteca, "tb_is_initialized", gtb::tb_is_initialized) &&
-        Buscar(biblioteca, "tb_availability", gtb::tb_availability) &&
-        Buscar(biblioteca, "tb_indexmemory", gtb::tb_indexmemory) &&
-        Buscar(biblioteca, "tbcache_init", gtb::tbcache_init) &&
-        Buscar(biblioteca, "tbcache_restart", gtb::tbcache_restart) &&
-        Buscar(biblioteca, "tbcache_done", gtb::tbcache_done) &&
-        Buscar(biblioteca, "tbcache_is_on", gtb::tbcache_is_on) &&
-        Buscar(biblioteca, "tbcache_flush", gtb::tbcache_flush) &&
-        Buscar(biblioteca, "tbstats_reset", gtb::tbstats_reset) &&
-        Buscar(biblioteca, "tbpaths_init", gtb::tbpaths_init) && Buscar(biblioteca, "tbpaths_add", gtb::tbpaths_add) &&
-        Buscar(biblioteca, "tbpaths_done", gtb::tbpaths_done) &&
-        Buscar(biblioteca, "tbpaths_getmain", gtb::tbpaths_getmain);
-    if (!completa) LimpiarEntradas();
-    return completa ? 1 : 0;
+    for (const EntradaGaviota& entrada : ENTRADAS) {
+        void* const simbolo = BuscarSimbolo(biblioteca, entrada.Nombre);
+        if (simbolo == nullptr) {
+            LimpiarEntradas();
+            return 0;
+        }
+        entrada.Poner(simbolo);
+    }
+    return 1;
 }
 
 void LimpiarEntradas() {
-    gtb::tb_init           = nullptr;
-    gtb::tb_restart        = nullptr;
-    gtb::tb_done           = nullptr;
-    gtb::tb_probe_hard     = nullptr;
-    gtb::tb_probe_soft     = nullptr;
-    gtb::tb_probe_WDL_hard = nullptr;
-    gtb::tb_probe_WDL_soft = nullptr;
-    gtb::tb_is_initialized = nullptr;
-    gtb::tb_availability   = nullptr;
-    gtb::tb_indexmemory    = nullptr;
-    gtb::tbcache_init      = nullptr;
-    gtb::tbcache_restart   = nullptr;
-    gtb::tbcache_done      = nullptr;
-    gtb::tbcache_is_on     = nullptr;
-    gtb::tbcache_flush     = nullptr;
-    gtb::tbstats_reset     = nullptr;
-    gtb::tbpaths_init      = nullptr;
-    gtb::tbpaths_add       = nullptr;
-    gtb::tbpaths_done      = nullptr;
-    gtb::tbpaths_getmain   = nullptr;
+    for (const EntradaGaviota& entrada : ENTRADAS) entrada.Poner(nullptr);
 }

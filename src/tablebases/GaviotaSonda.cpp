@@ -1,15 +1,22 @@
 #include <algorithm>
+#include <array>
 
 #include "board/Bando.h"
 #include "board/Color.h"
 #include "board/EstadoMotor.h"
 #include "board/Puntuacion.h"
-#include "tablebases/Flip3.h"
 #include "tablebases/Gaviota.h"
 #include "tablebases/GaviotaEntradas.h"
 #include "tablebases/GaviotaTablas.h"
 
 constexpr int PROFUNDIDAD_SONDA = 4;  // plies; from this remaining depth on, searching is left to find the way
+
+// Flip3[casilla]: a square of ours (a8 = 0) as the library counts it (a1 = 0).
+constexpr auto Flip3 = [] {
+    std::array<int, 64> tabla{};
+    for (int casilla = 0; casilla < 64; ++casilla) tabla[static_cast<unsigned>(casilla)] = casilla ^ 56;
+    return tabla;
+}();
 
 // Men of one side in the library's form: squares and kinds, closed by their empty values.
 struct ListaSonda {

@@ -4,11 +4,6 @@
 constexpr int HASH_VALOR = 128;   // megabytes, evaluation cache included
 constexpr int HASH_MAX   = 2048;  // what more is asked for is cut to this
 
-constexpr int TB_CACHE_VALOR      = 32;    // megabytes
-constexpr int TB_CACHE_TOPE       = 1015;  // from here on the start value is taken instead
-constexpr int TB_COMPRESION_VALOR = 4;
-constexpr int TB_COMPRESION_MAX   = 9;
-
 constexpr int VALOR_MAX = 252;  // longest text behind the word "value", its leading blanks included
 
 // Sets the Hash option to its start value and creates the hash tables.

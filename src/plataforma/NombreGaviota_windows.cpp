@@ -1,3 +1,0 @@
-#include "plataforma/NombreGaviota.h"
-
-const char* const NOMBRE_INSTALADO_GAVIOTA = nullptr;
