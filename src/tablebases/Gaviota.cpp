@@ -3,15 +3,18 @@
 #include <cstring>
 
 #include "plataforma/Biblioteca.h"
+#include "plataforma/Descriptores.h"
+#include "plataforma/Memoria.h"
 #include "plataforma/Salida.h"
 #include "tablebases/GaviotaEntradas.h"
 #include "tablebases/GaviotaTablas.h"
 
-constexpr char NOMBRE_BIBLIOTECA[] = "gtbprobe_x64.dll";  // the name of every message, whichever file was found
-
-constexpr char NOMBRE_INSTALADO[] = "libgaviotatb.so.1";  // as packages for users install it, without the bare name
-constexpr int  VERBOSIDAD         = 1;
-constexpr int  FRACCION_WDL       = 16;
+constexpr char NOMBRE_BIBLIOTECA[]   = "gtbprobe_x64.dll";   // the name of every message, whichever file was found
+constexpr char NOMBRE_INSTALADO[]    = "libgaviotatb.so.1";  // as packages for users install it, without the bare name
+constexpr int  VERBOSIDAD            = 1;
+constexpr int  FRACCION_WDL          = 16;
+constexpr int  DESCRIPTORES_MOTOR    = 3;                     // kept free for the book with its journal, and one more
+constexpr std::size_t MEMORIA_MINIMA = std::size_t{8} << 20;  // bytes beside the cache
 
 RegistroGaviota tbprobe_Gaviota;
 
@@ -40,6 +43,23 @@ void ActualizarGaviota() {
 // references.
 static void CargarFichero() {
     if (gtb_hmod == nullptr) gtb_hmod = CargarBiblioteca(NOMBRE_BIBLIOTECA, NOMBRE_INSTALADO);
+}
+
+static bool CabeEnMemoria(std::size_t octetos) {
+    void* const memoria = ReservarMemoria(octetos);
+    LiberarMemoria(memoria, octetos);
+    return memoria != nullptr;
+}
+
+// What the library lacks to be started, nullptr for nothing. It opens every table at "restart" and again at "init" and
+// never closes the first ones. Of a table that it failed to open, and of a cache without memory, it says that they are
+// well, and then crashes: in a probe, at the latest when it is shut down.
+static const char* RecursoQueFalta() {
+    const RegistroGaviota& g      = tbprobe_Gaviota;
+    const int              tablas = NumeroTablasGaviota(g.Ruta, g.Compresion);
+    if (HayDescriptores(2 * tablas + DESCRIPTORES_MOTOR) == 0) return "Demasiados ficheros abiertos";
+    const std::size_t cache_octetos = static_cast<std::size_t>(g.Cache) << 20;
+    return CabeEnMemoria(cache_octetos + cache_octetos / 64 + MEMORIA_MINIMA) ? nullptr : "Memoria insuficiente";
 }
 
 // Both calls of each pair are made: "restart" puts right a library that has been used before, "init" starts it.
@@ -77,6 +97,11 @@ void Cargar_gtbgaviota_dll() {
     g.Cargada = gtb_hmod != nullptr && BuscarEntradas(gtb_hmod) == 1 ? 1 : 0;
     if (g.Cargada == 0) {
         Imprimir("info string Error loading dll library %s.\n", NOMBRE_BIBLIOTECA);
+        return;
+    }
+    if (const char* const falta = RecursoQueFalta()) {
+        g.Cargada = 0;
+        Imprimir("info string Error: %s para la tabla de finales gaviota.\n", falta);
         return;
     }
     IniciarBiblioteca();

@@ -46,7 +46,8 @@ void IniciarOpcionesGaviota();
 // on and not loaded. Changes of path, cache and compression wait for the next loading.
 void ActualizarGaviota();
 
-// Loads and initialises the library and prints what it found; Cargada tells whether it can be used.
+// Loads and initialises the library and prints what it found; Cargada tells whether it can be used. Without the file
+// descriptors or the memory that it needs it is not started: a line tells it.
 void Cargar_gtbgaviota_dll();
 
 // Returns 1 when the library has been given back or none is loaded, 0 when the system did not free it.

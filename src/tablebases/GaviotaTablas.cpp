@@ -1,5 +1,6 @@
 #include "tablebases/GaviotaTablas.h"
 
+#include <cerrno>
 #include <climits>
 #include <cstdint>
 #include <cstdio>
@@ -21,6 +22,40 @@ constexpr int COMPRESION_MAX = 4;  // the library has no decoder for the rest, a
 
 constexpr char LETRAS_PIEZAS[] = "pnbrq";  // from low to high; a table's name has the higher piece first
 
+// Placements that the library's index tells apart, up to the symmetries of the board: mirrored left and right, and
+// without pawns also turned and reflected.
+constexpr std::uint32_t REYES_SIN_PEONES     = 462;                   // both kings
+constexpr std::uint32_t REYES                = 4096;                  // both kings where pawns stand
+constexpr std::uint32_t IGUALES[]            = {1, 64, 2016, 41664};  // so many pieces of one kind and side
+constexpr std::uint32_t REYES_Y_PEONES[4][2] = {  // by pawns of the side named first and of the other
+    {REYES_SIN_PEONES, 24 * REYES},
+    {24 * REYES, 24 * 48 * REYES},
+    {576 * REYES, 24 * 1128 * REYES},
+    {8648 * REYES, 0}};
+constexpr std::uint32_t POSICIONES_BLOQUE    = 0x4000;  // of one side to move; its last block may hold fewer
+
+using NombreTabla = std::initializer_list<char>;  // the letters of a table's name, one a man, as k q k
+
+// Blocks of a table: those of both sides to move.
+static std::uint32_t NumeroBloques(NombreTabla piezas) {
+    std::uint32_t posiciones = 1;
+    int           peones[2]{};
+    int           bando = -1;
+    for (const char* p = piezas.begin(); p != piezas.end();) {
+        const char letra   = *p;
+        int        iguales = 0;
+        for (; p != piezas.end() && *p == letra; ++p) ++iguales;
+        if (letra == 'k')
+            ++bando;
+        else if (letra == 'p')
+            peones[bando] = iguales;
+        else
+            posiciones *= IGUALES[iguales];
+    }
+    posiciones *= REYES_Y_PEONES[peones[0]][peones[1]];
+    return 2 * ((posiciones + POSICIONES_BLOQUE - 1) / POSICIONES_BLOQUE);
+}
+
 static bool LeerPalabra(std::FILE* tabla, std::uint32_t& palabra) {
     unsigned char octetos[PALABRA_OCTETOS];
     if (std::fread(octetos, 1, sizeof octetos, tabla) != sizeof octetos) return false;
@@ -35,11 +70,13 @@ static bool EsTamanoDeFichero(std::FILE* tabla, std::uint32_t octetos) {
            std::fgetc(tabla) == EOF;
 }
 
-// The index begins and ends where the header and the file say, and its blocks follow one another.
-static bool EsIndiceSano(std::FILE* tabla) {
+// The index has room for every block, begins and ends where the header and the file say, and its blocks follow one
+// another.
+static bool EsIndiceSano(std::FILE* tabla, std::uint32_t bloques) {
     std::uint32_t fin_indice, bloque;
     if (std::fseek(tabla, POSICION_FIN_INDICE, SEEK_SET) != 0 || !LeerPalabra(tabla, fin_indice)) return false;
-    if (fin_indice < CABECERA_OCTETOS + 2 * PALABRA_OCTETOS || fin_indice % PALABRA_OCTETOS != 0) return false;
+    if (fin_indice < CABECERA_OCTETOS + (bloques + 1) * PALABRA_OCTETOS || fin_indice % PALABRA_OCTETOS != 0)
+        return false;
     if (std::fseek(tabla, CABECERA_OCTETOS, SEEK_SET) != 0 || !LeerPalabra(tabla, bloque)) return false;
     if (bloque != fin_indice) return false;
     for (std::uint32_t i = CABECERA_OCTETOS + PALABRA_OCTETOS; i < fin_indice; i += PALABRA_OCTETOS) {
@@ -50,54 +87,79 @@ static bool EsIndiceSano(std::FILE* tabla) {
     return EsTamanoDeFichero(tabla, bloque);
 }
 
-// Opens the file in the first directory that has it, as the library does. nullptr = in none.
-static std::FILE* AbrirTabla(const char* rutas, const char* nombre) {
-    for (const char* ruta = rutas; *ruta != '\0';) {
+static bool NoEsta(int error) {
+    return error == ENOENT || error == ENOTDIR || error == ENAMETOOLONG;
+}
+
+// Opens the file in the first directory that has it, as the library does. False when it is in none; *tabla is nullptr
+// when it is there and cannot be opened.
+static bool AbrirTabla(const char* rutas, const char* nombre, std::FILE** tabla) {
+    bool esta = false;
+    *tabla    = nullptr;
+    for (const char* ruta = rutas; *ruta != '\0' && *tabla == nullptr;) {
         const int letras = static_cast<int>(std::strcspn(ruta, ";"));
         char      fichero[RUTA_MAX + 32];
         std::snprintf(fichero, sizeof fichero, "%.*s/%s", letras, ruta, nombre);
-        if (letras > 0)
-            if (std::FILE* const tabla = std::fopen(fichero, "rb")) return tabla;
+        if (letras > 0) {
+            *tabla = std::fopen(fichero, "rb");
+            esta   = esta || *tabla != nullptr || !NoEsta(errno);
+        }
         ruta += letras;
         if (*ruta == ';') ++ruta;
     }
-    return nullptr;
+    return esta;
+}
+
+static bool EsTablaSana(int compresion, NombreTabla piezas, std::FILE* tabla) {
+    if (tabla == nullptr || compresion > COMPRESION_MAX) return false;
+    return compresion < COMPRESION_MIN || EsIndiceSano(tabla, NumeroBloques(piezas));
 }
 
 struct BusquedaTablas {
     const char* Rutas;
     int         Compresion;
-    int         HombresSanos;
+    int         Numero;        // tables that are there
+    int         HombresSanos;  // found so far
+    bool        Comprobar;     // false only counts
 };
 
-// piezas: the letters of the table's name, one a man.
-static void ComprobarTabla(BusquedaTablas& b, std::initializer_list<char> piezas) {
-    const int hombres = static_cast<int>(piezas.size());
+static void VisitarTabla(BusquedaTablas& b, NombreTabla piezas) {
+    const int hombres    = static_cast<int>(piezas.size());
+    char      sufijo[16] = "";
     char      nombre[32];
-    std::snprintf(nombre, sizeof nombre, "%.*s.gtb.cp%d", hombres, piezas.begin(), b.Compresion);
-    std::FILE* const tabla = AbrirTabla(b.Rutas, nombre);
-    if (tabla == nullptr) return;
-    if (b.Compresion > COMPRESION_MAX || !EsIndiceSano(tabla)) {
+    if (b.Compresion >= COMPRESION_MIN) std::snprintf(sufijo, sizeof sufijo, ".cp%d", b.Compresion);
+    std::snprintf(nombre, sizeof nombre, "%.*s.gtb%s", hombres, piezas.begin(), sufijo);
+    std::FILE* tabla;
+    if (!AbrirTabla(b.Rutas, nombre, &tabla)) return;
+    ++b.Numero;
+    if (b.Comprobar && hombres <= b.HombresSanos && !EsTablaSana(b.Compresion, piezas, tabla)) {
         Imprimir("info string Error: Tabla de finales gaviota ilegible: %s\n", nombre);
-        if (b.HombresSanos >= hombres) b.HombresSanos = hombres - 1;
+        b.HombresSanos = hombres - 1;
     }
-    std::fclose(tabla);
+    if (tabla != nullptr) std::fclose(tabla);
 }
 
 // Tables with one, two and three pieces besides the kings; the side with more or higher pieces is named first.
-int ComprobarTablasGaviota(const char* rutas, int compresion) {
-    BusquedaTablas b{rutas, compresion, HOMBRES_TABLA_MAX};
-    if (compresion < COMPRESION_MIN) return b.HombresSanos;
+static BusquedaTablas VisitarTablas(const char* rutas, int compresion, bool comprobar) {
+    BusquedaTablas b{rutas, compresion, 0, HOMBRES_TABLA_MAX, comprobar};
     for (const char* x = LETRAS_PIEZAS; *x != '\0'; ++x) {
-        ComprobarTabla(b, {'k', *x, 'k'});
+        VisitarTabla(b, {'k', *x, 'k'});
         for (const char* y = LETRAS_PIEZAS; y <= x; ++y) {
-            ComprobarTabla(b, {'k', *x, *y, 'k'});
-            ComprobarTabla(b, {'k', *x, 'k', *y});
+            VisitarTabla(b, {'k', *x, *y, 'k'});
+            VisitarTabla(b, {'k', *x, 'k', *y});
             for (const char* z = LETRAS_PIEZAS; *z != '\0'; ++z) {
-                ComprobarTabla(b, {'k', *x, *y, 'k', *z});
-                if (z <= y) ComprobarTabla(b, {'k', *x, *y, *z, 'k'});
+                VisitarTabla(b, {'k', *x, *y, 'k', *z});
+                if (z <= y) VisitarTabla(b, {'k', *x, *y, *z, 'k'});
             }
         }
     }
-    return b.HombresSanos;
+    return b;
+}
+
+int NumeroTablasGaviota(const char* rutas, int compresion) {
+    return VisitarTablas(rutas, compresion, false).Numero;
+}
+
+int ComprobarTablasGaviota(const char* rutas, int compresion) {
+    return VisitarTablas(rutas, compresion, true).HombresSanos;
 }

@@ -1,6 +1,7 @@
 // What the engine asks of the probing library, seen from a stand-in that writes down every call.
 #include "tablebases/DobleGaviota.h"
 
+#include <climits>
 #include <fstream>
 #include <sstream>
 
@@ -55,6 +56,11 @@ TEST_F(Doble, CargaYDescargaEnSuOrden) {
               "5-pc TBs available\n");
     EXPECT_NE(Llamadas().find("tb_init(1 2 add)"), std::string::npos);
     EXPECT_EQ(Descargar_gtbgaviota_dll(), 1);
+    Llamadas();
+    EXPECT_EQ(Recargar("/tb", 4, INT_MAX),
+              "info string Error: Memoria insuficiente para la tabla de finales gaviota.\n");
+    EXPECT_EQ(Actualizar(0), "");
+    EXPECT_EQ(Llamadas(), "");
 }
 
 TEST_F(Doble, BibliotecaIncompletaNoSeLlama) {

@@ -1,5 +1,6 @@
 // Playing with the tablebases, seen from an interface: the real program on pipes.
 #include <cstdlib>
+#include <fstream>
 #include <random>
 
 #include "tablebases/Analisis.h"
@@ -37,6 +38,32 @@ TEST_F(Partida, SinBibliotecaSigueJugando) {
     EXPECT_TRUE(salida.starts_with(SIN_BIBLIOTECA + "readyok\n" + SIN_BIBLIOTECA + "readyok\n")) << salida;
     EXPECT_NE(salida.find("\nbestmove "), std::string::npos);
     EXPECT_EQ(salida.find("wait status"), std::string::npos) << salida;
+}
+
+// Every reload leaves descriptors open in the library.
+TEST_F(Partida, SinDescriptoresSigueJugando) {
+    if (!std::filesystem::exists(BIBLIOTECA_REAL)) GTEST_SKIP() << SIN_PAQUETES;
+    const std::string fichero = testing::TempDir() + "/tamrek_ordenes_" + std::to_string(getpid());
+    {
+        std::ofstream ordenes(fichero);
+        ordenes << "setoption name GaviotaTbPath value " << TABLAS_REALES << "4\n";
+        for (int i = 0; i < 20; ++i) ordenes << "setoption name GaviotaTbUse value false\nisready\n" << USAR;
+        for (const char* pieza : {"P", "B", "N"})
+            ordenes << "position fen 7k/8/6K1/8/8/1" << pieza << "6/8/8 w - - 0 1\ngo depth 6\n";
+    }
+    for (const char* limite : {"8", "64"}) {
+        const std::string salida = fichero + limite;
+        const std::string orden  = "(export LD_LIBRARY_PATH=" GAVIOTA_REAL "/biblioteca; ulimit -n " +
+                                  std::string(limite) + "; exec " TAMREK_PROGRAMA ") < " + fichero + " > " + salida;
+        EXPECT_EQ(std::system(orden.c_str()), 0);
+        std::string texto;
+        std::getline(std::ifstream(salida), texto, '\0');
+        EXPECT_NE(texto.find("Error: Demasiados ficheros abiertos"), std::string::npos) << texto;
+        EXPECT_EQ(texto.find("3-pc TBs complete") == std::string::npos, limite == std::string("8"));
+        EXPECT_NE(texto.find("\nbestmove"), std::string::npos);
+        std::filesystem::remove(salida);
+    }
+    std::filesystem::remove(fichero);
 }
 
 // The number behind "score mate", 0 when the last line announces none.
