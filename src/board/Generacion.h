@@ -1,7 +1,7 @@
 // Pseudo-legal move generation for the side to move.
 #pragma once
 
-#include "board/Jugada.h"
+#include "board/Movimiento.h"
 
 enum ModoGeneracion : int {
     GENERAR_TODOS    = 1,

@@ -7,7 +7,7 @@
 #include "board/Comprobacion.h"
 #include "board/EstadoMotor.h"
 #include "board/Geometria.h"
-#include "board/Jugada.h"
+#include "board/Movimiento.h"
 #include "board/Zobrist.h"
 
 namespace {

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "board/Jugada.h"
+#include "board/Movimiento.h"
 
 // Leaves below one legal root move.
 struct JugadaPerft {

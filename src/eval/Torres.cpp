@@ -3,7 +3,7 @@
 #include <array>
 
 #include "board/HacerMovimiento.h"
-#include "board/Jugada.h"
+#include "board/Movimiento.h"
 #include "eval/Espejo.h"
 #include "eval/Listas.h"
 #include "eval/Par.h"

@@ -7,7 +7,7 @@
 #include "board/Generacion.h"
 #include "board/Geometria.h"
 #include "board/HacerMovimiento.h"
-#include "board/Jugada.h"
+#include "board/Movimiento.h"
 #include "board/Puntuacion.h"
 #include "eval/Evaluar.h"
 #include "search/Historico.h"

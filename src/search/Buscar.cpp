@@ -6,7 +6,7 @@
 #include "board/EstadoMotor.h"
 #include "board/Generacion.h"
 #include "board/HacerMovimiento.h"
-#include "board/Jugada.h"
+#include "board/Movimiento.h"
 #include "board/Puntuacion.h"
 #include "eval/Evaluar.h"
 #include "plataforma/Reloj.h"

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "board/Jugada.h"
+#include "board/Movimiento.h"
 #include "board/Tablero.h"
 
 constexpr int KILLERS = 2;  // slots a ply; slot 0 is the newest

@@ -4,7 +4,7 @@
 #include <cstdio>
 
 #include "board/EstadoMotor.h"
-#include "board/Jugada.h"
+#include "board/Movimiento.h"
 #include "board/Puntuacion.h"
 #include "plataforma/Reloj.h"
 #include "plataforma/Salida.h"

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "board/Jugada.h"
+#include "board/Movimiento.h"
 #include "board/Tablero.h"
 
 constexpr int ULTIMO_PLY =

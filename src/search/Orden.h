@@ -4,7 +4,7 @@
 #include <array>
 #include <cstdint>
 
-#include "board/Jugada.h"
+#include "board/Movimiento.h"
 #include "board/Tablero.h"
 #include "search/See.h"
 

@@ -6,7 +6,7 @@
 #include "board/Ataques.h"
 #include "board/Color.h"
 #include "board/Geometria.h"
-#include "board/Jugada.h"
+#include "board/Movimiento.h"
 
 constexpr int CAPTURAS_BANDO = 20;  // captures of one side in an exchange; a board holds fewer attackers of a square
 

@@ -1,4 +1,4 @@
-#include "board/Jugada.h"
+#include "board/Movimiento.h"
 
 #include "board/Geometria.h"
 
