@@ -62,6 +62,10 @@ int Jaque2(int casilla) {
     return Peon_Asalvo(casilla, TableroGlobal.Turno);
 }
 
+int TurnoEnJaque() {
+    return Jaque2(TableroGlobal.Turno == BLANCO ? TableroGlobal.PosicionReyBlanco : TableroGlobal.PosicionReyNegro);
+}
+
 int AmenazadoPorPeonNegro(int casilla) {
     return AtacaPeon<NEGRO>(casilla);
 }

@@ -7,6 +7,9 @@ int JaqueBlancas(int casilla);  // attacked by a black piece
 // Attacked by the side not to move. Raises Salir and answers 0 when Turno is neither 0 nor 1.
 int Jaque2(int casilla);
 
+// Is the side to move in check? Answers as Jaque2 for the square of its king.
+int TurnoEnJaque();
+
 // As Jaque2 with the colour of the square's owner given: 0 = black, 1 = white.
 int Peon_Asalvo(int casilla, int color);
 

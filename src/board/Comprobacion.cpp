@@ -11,15 +11,13 @@
 #include "board/EstadoMotor.h"
 #include "board/Tablero.h"
 
-namespace {
-
 struct Copia {
     RegistroTablero Tablero;
     int             Contadores[2][5];
 };
-Copia copias[PLIES_MAX];
+static Copia copias[PLIES_MAX];
 
-void CopiarContadores(const RegistroBando& bando, int (&contadores)[5]) {
+static void CopiarContadores(const RegistroBando& bando, int (&contadores)[5]) {
     contadores[0] = bando.Peones;
     contadores[1] = bando.Caballos;
     contadores[2] = bando.Alfiles;
@@ -29,7 +27,7 @@ void CopiarContadores(const RegistroBando& bando, int (&contadores)[5]) {
 
 // Counters and king squares against the board. A position without exactly one king a side came from a foolish FEN
 // and promises nothing.
-void Recontar() {
+static void Recontar() {
     const RegistroTablero& t          = TableroGlobal;
     int                    numero[16] = {};
     for (const int pieza : t.Casillas) ++numero[pieza & 15];
@@ -42,11 +40,9 @@ void Recontar() {
     }
 }
 
-bool MismosBytes(const void* a, const void* b, std::size_t bytes) {
+static bool MismosBytes(const void* a, const void* b, std::size_t bytes) {
     return std::memcmp(a, b, bytes) == 0;
 }
-
-}  // namespace
 
 void GuardarCopiaTablero() {
     Copia& copia  = copias[TableroGlobal.Ply];

@@ -12,19 +12,17 @@
 // which the later ones may not count.
 constexpr int MOVIMIENTOS_PIEZA_MAX = 27 + 7;
 
-namespace {
-
 // Where the next move is written, and the occupied squares. A pointer of its own keeps IndexMove out of the innermost
 // loops. Most moves are written before it is known whether they count and kept by advancing the pointer: which squares
 // are occupied is beyond any branch predictor.
-struct Salida {
+struct SalidaLista {
     EntradaMovimiento* Siguiente;
     Conjunto           Propias;
     Conjunto           Rivales;
 };
 
 // The captured field of a move to a square that holds each code.
-constexpr std::array<std::uint32_t, 16> CalcularCamposCaptura() {
+static constexpr std::array<std::uint32_t, 16> CalcularCamposCaptura() {
     std::array<std::uint32_t, 16> tabla{};
     for (unsigned pieza = 0; pieza < 16; ++pieza) tabla[pieza] = pieza << DESPLAZA_CAPTURA;
     tabla[VACIO] = SIN_CAPTURA;
@@ -32,14 +30,14 @@ constexpr std::array<std::uint32_t, 16> CalcularCamposCaptura() {
 }
 constexpr auto CAMPO_CAPTURA = CalcularCamposCaptura();
 
-void Anadir(Salida& salida, std::uint32_t mov) {
+static void Anadir(SalidaLista& salida, std::uint32_t mov) {
     (salida.Siguiente++)->Movimiento = mov;
 }
 
 // Every move that is not special: a capture when the target is occupied, else a quiet move (not in captures mode).
 // The target holds no piece of the mover's side, or the move does not count.
 template <int MODO>
-void AddMoveRey(std::uint32_t base, int hasta, Salida& salida) {
+static void AddMoveRey(std::uint32_t base, int hasta, SalidaLista& salida) {
     const int      ocupante = TableroGlobal.Casillas[hasta];
     const Conjunto cuentan  = MODO == GENERAR_CAPTURAS ? salida.Rivales : ~salida.Propias;
     salida.Siguiente->Movimiento =
@@ -49,22 +47,22 @@ void AddMoveRey(std::uint32_t base, int hasta, Salida& salida) {
 
 // The four promotions, queen first; in both modes.
 template <int C>
-void AddMoveCoronacion(int desde, int hasta, Salida& salida) {
+static void AddMoveCoronacion(int desde, int hasta, SalidaLista& salida) {
     const int ocupante = TableroGlobal.Casillas[hasta];
     const int captura  = ocupante == VACIO ? NINGUNA : ocupante;
     for (const int coronada : {DAMA<C>, TORRE<C>, ALFIL<C>, CABALLO<C>})
         Anadir(salida, CrearMovimiento(desde, hasta, PEON<C>, captura, coronada));
 }
 
-void AddMoveEnroque(int desde, int hasta, int pieza, Salida& salida) {
+static void AddMoveEnroque(int desde, int hasta, int pieza, SalidaLista& salida) {
     Anadir(salida, CrearMovimiento(desde, hasta, pieza, NINGUNA, NINGUNA) | BIT_ENROQUE);
 }
 
-void AddMoveCapturaAlPaso(int desde, int hasta, int pieza, Salida& salida) {
+static void AddMoveCapturaAlPaso(int desde, int hasta, int pieza, SalidaLista& salida) {
     Anadir(salida, CrearMovimiento(desde, hasta, pieza, NINGUNA, NINGUNA) | BIT_AL_PASO);
 }
 
-void AddMovePosicionFichaAlPaso(int desde, int hasta, int pieza, Salida& salida) {
+static void AddMovePosicionFichaAlPaso(int desde, int hasta, int pieza, SalidaLista& salida) {
     Anadir(salida, CrearMovimiento(desde, hasta, pieza, NINGUNA, NINGUNA) | BIT_DOBLE_AVANCE);
 }
 
@@ -80,7 +78,7 @@ constexpr Diagonal<C> DIAGONALES[2] = {{C == BLANCO ? +1 : -1, C == BLANCO ? 7 :
                                        {C == BLANCO ? -1 : +1, C == BLANCO ? 0 : 7}};
 
 template <int C>
-void CapturaAlPaso(int desde, Salida& salida) {
+static void CapturaAlPaso(int desde, SalidaLista& salida) {
     const int peon = TableroGlobal.FichaAlPaso;
     if (TableroGlobal.Casillas[peon] != PEON<RIVAL<C>>) return;
     for (const auto& diagonal : DIAGONALES<C>) {
@@ -91,7 +89,7 @@ void CapturaAlPaso(int desde, Salida& salida) {
 }
 
 template <int C, int MODO>
-void ObtenerMovimientoPeon(int desde, Salida& salida) {
+static void ObtenerMovimientoPeon(int desde, SalidaLista& salida) {
     constexpr int FILA_SALIDA     = 1;
     constexpr int FILA_SEPTIMA    = 6;
     constexpr int FILA_CORONACION = 7;
@@ -122,19 +120,19 @@ void ObtenerMovimientoPeon(int desde, Salida& salida) {
 }
 
 template <int MODO>
-void Saltar(int desde, int pieza, const Saltos& saltos, Salida& salida) {
+static void Saltar(int desde, int pieza, const Saltos& saltos, SalidaLista& salida) {
     const std::uint32_t base = CrearMovimiento(desde, 0, pieza, 0, NINGUNA);
     for (int i = 0; i < saltos.Numero; ++i) AddMoveRey<MODO>(base, saltos.Casillas[i], salida);
 }
 
 template <int C, int MODO>
-void ObtenerMovimientoCaballo(int desde, Salida& salida) {
+static void ObtenerMovimientoCaballo(int desde, SalidaLista& salida) {
     Saltar<MODO>(desde, CABALLO<C>, SALTOS_CABALLO[static_cast<unsigned>(desde)], salida);
 }
 
 // One ray: over empty squares up to the first piece, which is taken if it is the enemy's.
 template <int DIR, int MODO>
-void DeslizarRayo(int desde, std::uint32_t base, Salida& salida) {
+static void DeslizarRayo(int desde, std::uint32_t base, SalidaLista& salida) {
     constexpr int  SALTO    = PASO[DIR];
     const auto     indice   = static_cast<unsigned>(desde);
     const Conjunto ocupadas = RAYOS[indice][DIR] & (salida.Propias | salida.Rivales);
@@ -152,7 +150,7 @@ void DeslizarRayo(int desde, std::uint32_t base, Salida& salida) {
 }
 
 template <int MODO>
-void ObtenerMovimientoAlfil(int desde, int pieza, Salida& salida) {
+static void ObtenerMovimientoAlfil(int desde, int pieza, SalidaLista& salida) {
     const std::uint32_t base = CrearMovimiento(desde, 0, pieza, 0, NINGUNA);
     DeslizarRayo<DIR_MAS_9, MODO>(desde, base, salida);
     DeslizarRayo<DIR_MAS_7, MODO>(desde, base, salida);
@@ -161,7 +159,7 @@ void ObtenerMovimientoAlfil(int desde, int pieza, Salida& salida) {
 }
 
 template <int MODO>
-void ObtenerMovimientoTorre(int desde, int pieza, Salida& salida) {
+static void ObtenerMovimientoTorre(int desde, int pieza, SalidaLista& salida) {
     const std::uint32_t base = CrearMovimiento(desde, 0, pieza, 0, NINGUNA);
     DeslizarRayo<DIR_MAS_8, MODO>(desde, base, salida);
     DeslizarRayo<DIR_MENOS_8, MODO>(desde, base, salida);
@@ -171,7 +169,7 @@ void ObtenerMovimientoTorre(int desde, int pieza, Salida& salida) {
 
 // All squares strictly between the king and the corner are empty and the corner holds the rook.
 template <int C>
-bool CaminoLibre(int rey, int esquina) {
+static bool CaminoLibre(int rey, int esquina) {
     const int paso = esquina > rey ? +1 : -1;
     for (int casilla = rey + paso; casilla != esquina; casilla += paso)
         if (TableroGlobal.Casillas[casilla] != VACIO) return false;
@@ -179,7 +177,7 @@ bool CaminoLibre(int rey, int esquina) {
 }
 
 template <int C>
-void ObtenerEnroques(int desde, Salida& salida) {
+static void ObtenerEnroques(int desde, SalidaLista& salida) {
     constexpr int CASA   = CASA_REY<C>;
     const int     estado = EnroqueDe<C>();
     if (desde != CASA) return;
@@ -191,13 +189,13 @@ void ObtenerEnroques(int desde, Salida& salida) {
 }
 
 template <int C, int MODO>
-void ObtenerMovimientoRey(int desde, Salida& salida) {
+static void ObtenerMovimientoRey(int desde, SalidaLista& salida) {
     if (MODO != GENERAR_CAPTURAS && EnroqueDe<C>() != SIN_ENROQUE) ObtenerEnroques<C>(desde, salida);
     Saltar<MODO>(desde, REY<C>, SALTOS_REY[static_cast<unsigned>(desde)], salida);
 }
 
 template <int C, int MODO>
-void GenerarPieza(int desde, Salida& salida) {
+static void GenerarPieza(int desde, SalidaLista& salida) {
     switch (TableroGlobal.Casillas[desde]) {
         case PEON<C>:
             ObtenerMovimientoPeon<C, MODO>(desde, salida);
@@ -225,9 +223,9 @@ void GenerarPieza(int desde, Salida& salida) {
 
 // The moves of one piece when the list might not hold them all: through a list of its own, copying what fits.
 template <int C, int MODO>
-void GenerarPiezaConCuidado(int desde, Salida& salida, const EntradaMovimiento* fin) {
+static void GenerarPiezaConCuidado(int desde, SalidaLista& salida, const EntradaMovimiento* fin) {
     EntradaMovimiento propias[MOVIMIENTOS_PIEZA_MAX];
-    Salida            aparte{propias, salida.Propias, salida.Rivales};
+    SalidaLista       aparte{propias, salida.Propias, salida.Rivales};
     GenerarPieza<C, MODO>(desde, aparte);
     for (const EntradaMovimiento* entrada = propias; entrada != aparte.Siguiente; ++entrada) {
         if (salida.Siguiente == fin) {
@@ -239,9 +237,9 @@ void GenerarPiezaConCuidado(int desde, Salida& salida, const EntradaMovimiento* 
 }
 
 template <int C, int MODO>
-int Generar(ListaMovimientos& lista) {
+static int Generar(ListaMovimientos& lista) {
     const EntradaMovimiento* const fin = lista.Entradas + MOVIMIENTOS_MAX;
-    Salida                         salida{lista.Entradas, CasillasDe<C>(), CasillasDe<RIVAL<C>>()};
+    SalidaLista                    salida{lista.Entradas, CasillasDe<C>(), CasillasDe<RIVAL<C>>()};
     for (Conjunto propias = salida.Propias; propias != 0;) {
         const int desde = SacarCasillaEnOrden<C>(propias);
         if (fin - salida.Siguiente >= MOVIMIENTOS_PIEZA_MAX)
@@ -255,11 +253,9 @@ int Generar(ListaMovimientos& lista) {
 }
 
 template <int C>
-int Generar(int modo, ListaMovimientos& lista) {
+static int Generar(int modo, ListaMovimientos& lista) {
     return modo == GENERAR_CAPTURAS ? Generar<C, GENERAR_CAPTURAS>(lista) : Generar<C, GENERAR_TODOS>(lista);
 }
-
-}  // namespace
 
 int GenerarMovimientos(int modo, ListaMovimientos& lista) {
     IndexMove = 0;

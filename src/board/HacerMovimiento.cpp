@@ -10,12 +10,10 @@
 #include "board/Movimiento.h"
 #include "board/Zobrist.h"
 
-namespace {
-
 constexpr std::uint8_t SIN_LINEA = DIRECCIONES;
 
 // LINEAS[king][square]: the direction from the king towards the square when both share a line, else SIN_LINEA.
-constexpr std::array<std::array<std::uint8_t, 64>, 64> CalcularLineas() {
+static constexpr std::array<std::array<std::uint8_t, 64>, 64> CalcularLineas() {
     std::array<std::array<std::uint8_t, 64>, 64> tabla{};
     for (unsigned rey = 0; rey < 64; ++rey) {
         tabla[rey].fill(SIN_LINEA);
@@ -34,7 +32,7 @@ struct SaltoTorre {
     int Hasta;
 };
 template <int C>
-SaltoTorre TorreDelEnroque(int hasta_rey) {
+static SaltoTorre TorreDelEnroque(int hasta_rey) {
     if (hasta_rey == CASA_REY<C> + 2) return {ESQUINA_CORTA<C>, CASA_REY<C> + 1};
     if (hasta_rey == CASA_REY<C> - 2) return {ESQUINA_LARGA<C>, CASA_REY<C> - 1};
     Salir = 1;
@@ -42,19 +40,19 @@ SaltoTorre TorreDelEnroque(int hasta_rey) {
 }
 
 template <int C>
-std::uint64_t ClaveEnroque(int estado) {
+static std::uint64_t ClaveEnroque(int estado) {
     return zobrist_Tablero[FILA_ENROQUE][C == BLANCO ? 63 - estado : estado];
 }
 
 // Sets the castling state and adds its key; the key of the old state stays in.
 template <int C>
-void CambiarEnroque(int estado, std::uint64_t& key) {
+static void CambiarEnroque(int estado, std::uint64_t& key) {
     EnroqueDe<C>() = estado;
     key ^= ClaveEnroque<C>(estado);
 }
 
 template <int C>
-void Enrocar(int hasta, std::uint64_t& key) {
+static void Enrocar(int hasta, std::uint64_t& key) {
     int*             casillas = TableroGlobal.Casillas;
     const SaltoTorre torre    = TorreDelEnroque<C>(hasta);
     const int        pieza    = casillas[torre.Desde];
@@ -67,7 +65,7 @@ void Enrocar(int hasta, std::uint64_t& key) {
 
 // A king or rook that moves gives up rights; the states after castling are left alone.
 template <int C>
-void PerderEnroque(int desde, int pieza, std::uint64_t& key) {
+static void PerderEnroque(int desde, int pieza, std::uint64_t& key) {
     const int estado = EnroqueDe<C>();
     if (estado < ENROQUE_CORTO || estado > ENROQUE_AMBOS) return;
     if (pieza == REY<C>) {
@@ -79,7 +77,7 @@ void PerderEnroque(int desde, int pieza, std::uint64_t& key) {
 }
 
 template <int C>
-void Coronar(int hasta, int coronada, std::uint64_t& key) {
+static void Coronar(int hasta, int coronada, std::uint64_t& key) {
     if (coronada < CABALLO<C> || coronada > DAMA<C>) {
         Salir = 1;
         return;
@@ -90,7 +88,7 @@ void Coronar(int hasta, int coronada, std::uint64_t& key) {
     ++(BandoDe<C>().*CONTADOR[coronada]);
 }
 
-void GuardarEstado(std::uint32_t mov) {
+static void GuardarEstado(std::uint32_t mov) {
     RegistroTablero& t  = TableroGlobal;
     EstadoDeshacer&  e  = t.Deshacer[t.Ply];
     e.Key               = t.Key;
@@ -103,7 +101,7 @@ void GuardarEstado(std::uint32_t mov) {
     e.Regla50           = t.Regla50;
 }
 
-void RestaurarEstado(const EstadoDeshacer& e) {
+static void RestaurarEstado(const EstadoDeshacer& e) {
     RegistroTablero& t  = TableroGlobal;
     t.Key               = e.Key;
     t.PosicionReyBlanco = e.PosicionReyBlanco;
@@ -114,7 +112,7 @@ void RestaurarEstado(const EstadoDeshacer& e) {
     t.Regla50           = e.Regla50;
 }
 
-void CerrarMovimiento(std::uint64_t key) {
+static void CerrarMovimiento(std::uint64_t key) {
     RegistroTablero& t = TableroGlobal;
     t.Key              = key;
     if (t.NumeroKeys < KEYS_MAX) t.HistorialKeys[t.NumeroKeys++] = key;
@@ -122,7 +120,7 @@ void CerrarMovimiento(std::uint64_t key) {
     t.Turno ^= 1;
 }
 
-void AbrirDeshacer() {
+static void AbrirDeshacer() {
     RegistroTablero& t = TableroGlobal;
     if (t.NumeroKeys > 0) --t.NumeroKeys;
     if (t.Ply > 0) --t.Ply;
@@ -130,13 +128,13 @@ void AbrirDeshacer() {
 }
 
 template <int C>
-int ReyAtacado() {
+static int ReyAtacado() {
     return C == BLANCO ? JaqueBlancas(PosicionReyDe<C>()) : JaqueNegras(PosicionReyDe<C>());
 }
 
 // A king that was safe can only be exposed along the line that a piece has left.
 template <int C>
-bool LineaAbierta(int desde) {
+static bool LineaAbierta(int desde) {
     constexpr int R   = RIVAL<C>;
     int           rey = PosicionReyDe<C>();
     const int     dir = LINEAS[static_cast<unsigned>(rey)][static_cast<unsigned>(desde)];
@@ -150,7 +148,7 @@ bool LineaAbierta(int desde) {
 }
 
 template <int C>
-int Hacer(std::uint32_t mov, int en_jaque) {
+static int Hacer(std::uint32_t mov, int en_jaque) {
     RegistroTablero& t     = TableroGlobal;
     const int        desde = Desde(mov);
     const int        hasta = Hasta(mov);
@@ -203,7 +201,7 @@ int Hacer(std::uint32_t mov, int en_jaque) {
 }
 
 template <int C>
-void Deshacer(const EstadoDeshacer& estado) {
+static void Deshacer(const EstadoDeshacer& estado) {
     RegistroTablero&    t     = TableroGlobal;
     const std::uint32_t mov   = estado.Movimiento;
     const int           desde = Desde(mov);
@@ -233,8 +231,6 @@ void Deshacer(const EstadoDeshacer& estado) {
     }
     RestaurarEstado(estado);
 }
-
-}  // namespace
 
 int HacerMovimientoConJaque(std::uint32_t movimiento, int en_jaque) {
     COMPROBAR_ANTES_DE_HACER();

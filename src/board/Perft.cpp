@@ -37,9 +37,8 @@ static void ContarHoja(std::uint32_t mov) {
 static void MiniMax(int restantes) {
     if (TipoJuego.Parar) return;
     ListaMovimientos lista;
-    const int        en_jaque =
-        Jaque2(TableroGlobal.Turno == 1 ? TableroGlobal.PosicionReyBlanco : TableroGlobal.PosicionReyNegro);
-    const int numero = GenerarMovimientos(GENERAR_TODOS, lista);
+    const int        en_jaque = TurnoEnJaque();
+    const int        numero   = GenerarMovimientos(GENERAR_TODOS, lista);
     for (int i = 0; i < numero; ++i) {
         const std::uint32_t mov = lista.Entradas[i].Movimiento;
         if (HacerMovimientoConJaque(mov, en_jaque)) {

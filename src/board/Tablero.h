@@ -71,3 +71,11 @@ extern RegistroTablero TableroGlobal;
 
 // Fills TablaCasillas. To be called before any position is set up.
 void CrearTablaCasillas();
+
+// 1 when the current position stood on the board before within the reversible moves. One earlier occurrence is
+// enough: what could be repeated once more can be repeated again.
+int Es_Tabla_Repeticion();
+
+// 1 when the position is drawn by the fifty-move rule or by repetition. The search does not ask it at the root, where
+// a move must be answered.
+int EsTablasPorRegla();

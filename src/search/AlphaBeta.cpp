@@ -1,7 +1,9 @@
 #include "search/AlphaBeta.h"
 
 #include <algorithm>
+#include <cmath>
 
+#include "board/Ataques.h"
 #include "board/Color.h"
 #include "board/EstadoMotor.h"
 #include "board/Generacion.h"
@@ -9,15 +11,13 @@
 #include "board/HacerMovimiento.h"
 #include "board/Movimiento.h"
 #include "board/Puntuacion.h"
+#include "board/Tablero.h"
 #include "eval/Evaluar.h"
 #include "search/Historico.h"
 #include "search/Informe.h"
-#include "search/Jaque.h"
 #include "search/LineaPrincipal.h"
-#include "search/Lmr.h"
 #include "search/Orden.h"
 #include "search/Quiescencia.h"
-#include "search/Repeticion.h"
 #include "search/See.h"
 #include "search/Transposicion.h"
 #include "tablebases/Gaviota.h"
@@ -43,6 +43,10 @@ constexpr int PROFUNDIDAD_SEE       = 2;  // exchange reductions from this depth
 constexpr int MARGEN_FUTIL       = 50;  // centipawns, once and for each ply of depth
 constexpr int TRANQUILOS_POR_PLY = 3;   // quiet moves for each ply of depth before late ones are pruned
 constexpr int JUGADAS_ENTERAS    = 3;   // the first moves are never reduced
+
+constexpr int NUMERO_CRECE = 63;  // from this move number on the late-move reduction no longer grows
+
+int lmr[LMR_FILAS][LMR_COLUMNAS];
 
 // A node as its stations share it.
 struct Nodo {
@@ -175,6 +179,23 @@ static bool EsPodable(const Nodo& nodo, const Jugada& jugada) {
         nodo.Evaluacion + MARGEN_FUTIL + MARGEN_FUTIL * nodo.Profundidad < nodo.Beta)
         return true;
     return nodo.Profundidad <= PROFUNDIDAD_TARDIA && nodo.Tranquilos > TRANQUILOS_POR_PLY * nodo.Profundidad;
+}
+
+// Both late moves and deep nodes bear more; the logarithms let the reduction grow slowly with either.
+static int CalcularReduccion(int profundidad, int numero) {
+    const double valor = std::log(profundidad) * std::log(std::min(numero, NUMERO_CRECE)) * 0.5;
+    if (!std::isfinite(valor) || valor < 1.0) return 0;
+    return static_cast<int>(std::min(valor, profundidad - 1.0));  // at least one ply is left to search
+}
+
+void IniciarLmr() {
+    for (int profundidad = 0; profundidad < LMR_FILAS; ++profundidad)
+        for (int numero = 0; numero < LMR_COLUMNAS; ++numero)
+            lmr[profundidad][numero] = CalcularReduccion(profundidad, numero);
+}
+
+int ReduccionLmr(int profundidad, int numero) {
+    return lmr[std::min(profundidad, LMR_FILAS - 1)][std::min(numero, LMR_COLUMNAS - 1)];
 }
 
 // Late-move reduction in plies, 0 = none. A child that stays deep enough loses one ply more.

@@ -3,6 +3,18 @@
 
 #include <cstdint>
 
+// Late-move reductions: how much shallower a quiet move is searched that stands late in the list. Plies; [remaining
+// depth][number of the legal move, the first being 1].
+constexpr int LMR_FILAS    = 64;
+constexpr int LMR_COLUMNAS = 256;
+extern int    lmr[LMR_FILAS][LMR_COLUMNAS];
+
+// Fills lmr. To be called once, before the first search.
+void IniciarLmr();
+
+// The entry for a depth and move number of the search, both of which may pass the edge of the table by a little.
+int ReduccionLmr(int profundidad, int numero);
+
 // Score of TableroGlobal for the side to move, in centipawns, or 0 once TipoJuego.Parar is 1; the caller then
 // discards it. The board is left as it was, and so is Ply, which is 0 at the root and never passes 63.
 // profundidad: remaining plies; alfa < beta: the window, a null-window node being one with beta - 1 == alfa.

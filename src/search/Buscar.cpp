@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "board/Ataques.h"
 #include "board/EstadoMotor.h"
 #include "board/Generacion.h"
 #include "board/HacerMovimiento.h"
@@ -13,9 +14,7 @@
 #include "search/AlphaBeta.h"
 #include "search/Historico.h"
 #include "search/Informe.h"
-#include "search/Jaque.h"
 #include "search/LineaPrincipal.h"
-#include "search/Lmr.h"
 #include "search/Transposicion.h"
 #include "tablebases/Gaviota.h"
 

@@ -2,15 +2,16 @@
 
 #include <algorithm>
 
+#include "board/Ataques.h"
+#include "board/Color.h"
 #include "board/EstadoMotor.h"
 #include "board/Generacion.h"
 #include "board/HacerMovimiento.h"
 #include "board/Puntuacion.h"
+#include "board/Tablero.h"
 #include "eval/Evaluar.h"
-#include "search/Jaque.h"
 #include "search/LineaPrincipal.h"
 #include "search/Orden.h"
-#include "search/Repeticion.h"
 #include "search/See.h"
 #include "search/Transposicion.h"
 #include "uci/ComprobarTiempo.h"

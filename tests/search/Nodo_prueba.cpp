@@ -1,10 +1,10 @@
 // Single nodes of both searches, entered as the search itself enters them: with moves made since the root.
 #include "board/Puntuacion.h"
+#include "board/Tablero.h"
 #include "search/AlphaBeta.h"
 #include "search/Ayudas.h"
 #include "search/LineaPrincipal.h"
 #include "search/Quiescencia.h"
-#include "search/Repeticion.h"
 
 class NodoDeBusqueda : public Busqueda {
 protected:

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "board/Puntuacion.h"
+#include "search/AlphaBeta.h"
 #include "search/Historico.h"
-#include "search/Lmr.h"
 
 static std::uint32_t Callada(int pieza, int desde, int hasta) {
     return CrearMovimiento(desde, hasta, pieza, NINGUNA, NINGUNA);
