@@ -7,6 +7,8 @@ int JaqueBlancas(int casilla);  // attacked by a black piece
 // Attacked by the side not to move. Raises Salir and answers 0 when Turno is neither 0 nor 1.
 int Jaque2(int casilla);
 
+enum EstadoJaque : int { SIN_JAQUE = 0, EN_JAQUE = 1 };
+
 // Is the side to move in check? Answers as Jaque2 for the square of its king.
 int TurnoEnJaque();
 

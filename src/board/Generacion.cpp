@@ -34,8 +34,13 @@ static void Anadir(SalidaLista& salida, std::uint32_t mov) {
     (salida.Siguiente++)->Movimiento = mov;
 }
 
-// Every move that is not special: a capture when the target is occupied, else a quiet move (not in captures mode).
-// The target holds no piece of the mover's side, or the move does not count.
+// A plain move whose target has been looked at already: a pawn's.
+static void AddMoveNormal(int desde, int hasta, int pieza, int captura, SalidaLista& salida) {
+    Anadir(salida, CrearMovimiento(desde, hasta, pieza, captura, NINGUNA));
+}
+
+// The plain moves of every piece but pawns: a capture when the target is occupied, else a quiet move (not in captures
+// mode). The target holds no piece of the mover's side, or the move does not count.
 template <int MODO>
 static void AddMoveRey(std::uint32_t base, int hasta, SalidaLista& salida) {
     const int      ocupante = TableroGlobal.Casillas[hasta];
@@ -106,7 +111,7 @@ static void ObtenerMovimientoPeon(int desde, SalidaLista& salida) {
         if (fila == FILA_SEPTIMA)
             AddMoveCoronacion<C>(desde, hasta, salida);
         else
-            Anadir(salida, CrearMovimiento(desde, hasta, PEON<C>, casillas[hasta], NINGUNA));
+            AddMoveNormal(desde, hasta, PEON<C>, casillas[hasta], salida);
     }
     if (casillas[delante] != VACIO) return;
     if (fila == FILA_SEPTIMA) {
@@ -114,7 +119,7 @@ static void ObtenerMovimientoPeon(int desde, SalidaLista& salida) {
         return;
     }
     if constexpr (MODO == GENERAR_CAPTURAS) return;
-    Anadir(salida, CrearMovimiento(desde, delante, PEON<C>, NINGUNA, NINGUNA));
+    AddMoveNormal(desde, delante, PEON<C>, NINGUNA, salida);
     const int doble = delante + ADELANTE<C>;
     if (fila == FILA_SALIDA && casillas[doble] == VACIO) AddMovePosicionFichaAlPaso(desde, doble, PEON<C>, salida);
 }

@@ -77,8 +77,10 @@ struct ListaMovimientos {
 // Number of moves in the list being filled; GenerarMovimientos starts it at 0 and returns it.
 extern int IndexMove;
 
+constexpr int COORDENADAS_MAX = 6;  // a move with promotion letter and terminator
+
 // Writes a move as coordinate text: four characters, the lower-case promotion letter for a promotion code of
-// either colour ('\0' for any other code), and a terminating '\0'. salida holds 6 bytes.
+// either colour ('\0' for any other code), and a terminating '\0'. salida holds COORDENADAS_MAX bytes.
 void MovimientoCoordenadas(int desde, int hasta, int coronacion, char* salida);
 
 // The same for a move word.

@@ -79,6 +79,13 @@ static int NodosPorSegundo(std::uint64_t nodos, std::uint64_t milisegundos) {
     return static_cast<int>(std::min(valor + 0.5F, 2147483520.0F));  // the largest float that an int holds
 }
 
+// One line of the "Divide" list.
+static void ImprimirMovimientoCoordenadas(const JugadaPerft& jugada) {
+    char coordenadas[COORDENADAS_MAX];
+    MovimientoCoordenadas(jugada.Movimiento, coordenadas);
+    Imprimir("%s: %d\n", coordenadas, jugada.Hojas);
+}
+
 void Perft(const char* texto) {
     char palabra[PALABRA_MAX];
     Split_String(texto, palabra);
@@ -99,9 +106,6 @@ void Perft(const char* texto) {
     Imprimir("Nps: %d\n", NodosPorSegundo(c.Nodos, TipoJuego.TiempoTranscurrido));
     Imprimir("Divide\n------------------------------\n");
     for (int i = 0; i < c.NumeroJugadas; ++i) {
-        if (c.Jugadas[i].Hojas == 0) continue;
-        char coordenadas[6];
-        MovimientoCoordenadas(c.Jugadas[i].Movimiento, coordenadas);
-        Imprimir("%s: %d\n", coordenadas, c.Jugadas[i].Hojas);
+        if (c.Jugadas[i].Hojas != 0) ImprimirMovimientoCoordenadas(c.Jugadas[i]);
     }
 }

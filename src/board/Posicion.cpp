@@ -35,7 +35,7 @@ static std::uint32_t BuscarMovimiento(const char* texto) {
     const int        numero = GenerarMovimientos(GENERAR_TODOS, lista);
     for (int i = 0; i < numero; ++i) {
         const std::uint32_t mov = lista.Entradas[i].Movimiento;
-        char                coordenadas[6];
+        char                coordenadas[COORDENADAS_MAX];
         MovimientoCoordenadas(mov, coordenadas);
         if (std::strcmp(coordenadas, texto) == 0) return mov;
     }

@@ -53,7 +53,7 @@ struct Nodo {
     int           Profundidad;
     int           Alfa;  // raised by the moves of the node
     int           Beta;
-    int           EnJaque;
+    int           EnJaque;  // EstadoJaque
     int           Ply;
     bool          VentanaNula;
     int           Evaluacion;  // static score; -VALOR_INFINITO where none is made
@@ -67,7 +67,7 @@ struct Nodo {
 // A move just made, as the child's depth depends on it.
 struct Jugada {
     std::uint32_t Movimiento;
-    int           DaJaque;
+    int           DaJaque;      // EstadoJaque of the opponent
     int           Profundidad;  // of the child, reduction included
     int           Reduccion;
 };
@@ -99,12 +99,18 @@ static int ProfundidadTrasNulo(int profundidad) {
     return profundidad - (67 * profundidad + 823) / 256;
 }
 
+// Gives the turn back. Nothing but the turn, the en-passant square and the clock has changed, so no move is undone.
+static void CancelarNull() {
+    DeshacerMovimientoNull();
+}
+
 // Searches what follows when the side to move passes, for the side to move.
 static int BuscarNulo(const Nodo& nodo, int profundidad) {
     HacerMovimientoNull();
-    const int puntos = profundidad < 1 ? -AlphaBeta_Qs(-nodo.Beta, 1 - nodo.Beta, 0, 1, 1)
-                                       : -AlphaBeta_Pv(profundidad, -nodo.Beta, 1 - nodo.Beta, 0, 1, 0);
-    DeshacerMovimientoNull();
+    const int puntos = profundidad < 1
+                           ? -AlphaBeta_Qs(-nodo.Beta, 1 - nodo.Beta, SIN_JAQUE, VENTANA_NULA, PRIMER_NIVEL)
+                           : -AlphaBeta_Pv(profundidad, -nodo.Beta, 1 - nodo.Beta, SIN_JAQUE, SIN_NULO, SIN_PREVIO);
+    CancelarNull();
     return puntos;
 }
 
@@ -128,7 +134,7 @@ static bool PodaNula(const Nodo& nodo, int* puntos) {
 static bool PodaRazor(const Nodo& nodo, int* puntos) {
     const int limite = nodo.Beta - RAZOR_MARGIN[nodo.Profundidad];
     if (nodo.Evaluacion >= limite) return false;
-    *puntos = AlphaBeta_Qs(nodo.Alfa, nodo.Beta, 0, 1, 1);
+    *puntos = AlphaBeta_Qs(nodo.Alfa, nodo.Beta, SIN_JAQUE, VENTANA_NULA, PRIMER_NIVEL);
     if (TipoJuego.Parar == 1) {
         *puntos = 0;
         return true;
@@ -145,7 +151,7 @@ static bool PodaEstatica(const Nodo& nodo, int sin_nulo, int* puntos) {
         *puntos = nodo.Evaluacion - STAT_NULL_MARGIN[profundidad];
         return true;
     }
-    if (sin_nulo != 0) return false;
+    if (sin_nulo == SIN_NULO) return false;
     if (profundidad >= PROFUNDIDAD_NULO && nodo.Evaluacion >= nodo.Beta && FigurasAdversarioNull() &&
         PodaNula(nodo, puntos))
         return true;
@@ -166,14 +172,15 @@ static bool EsSospechoso(const Nodo& nodo, std::uint32_t movimiento) {
 static int ProfundidadConExtensiones(const Nodo& nodo, const Jugada& jugada) {
     int profundidad = nodo.Profundidad - 1;
     if (nodo.Ply == 0) return profundidad;
-    if (jugada.DaJaque != 0 && !(nodo.VentanaNula && nodo.Profundidad >= PROFUNDIDAD_SIN_JAQUE)) ++profundidad;
+    if (jugada.DaJaque == EN_JAQUE && !(nodo.VentanaNula && nodo.Profundidad >= PROFUNDIDAD_SIN_JAQUE)) ++profundidad;
     if (!nodo.VentanaNula && ExtensionPeonEnSeptima(jugada.Movimiento)) ++profundidad;
     return profundidad;
 }
 
 // Futility and late-move pruning of a move already made.
 static bool EsPodable(const Nodo& nodo, const Jugada& jugada) {
-    if (!nodo.VentanaNula || nodo.EnJaque != 0 || jugada.DaJaque != 0 || !LejosDelMate(nodo)) return false;
+    if (!nodo.VentanaNula || nodo.EnJaque == EN_JAQUE || jugada.DaJaque == EN_JAQUE || !LejosDelMate(nodo))
+        return false;
     if (!EsSospechoso(nodo, jugada.Movimiento)) return false;
     if (nodo.Profundidad <= PROFUNDIDAD_FUTIL && nodo.Legales != 1 &&
         nodo.Evaluacion + MARGEN_FUTIL + MARGEN_FUTIL * nodo.Profundidad < nodo.Beta)
@@ -200,7 +207,7 @@ int ReduccionLmr(int profundidad, int numero) {
 
 // Late-move reduction in plies, 0 = none. A child that stays deep enough loses one ply more.
 static int HistoricoValorReduccion(const Nodo& nodo, const Jugada& jugada) {
-    if (nodo.Profundidad < PROFUNDIDAD_LMR || nodo.EnJaque != 0 || jugada.DaJaque != 0 ||
+    if (nodo.Profundidad < PROFUNDIDAD_LMR || nodo.EnJaque == EN_JAQUE || jugada.DaJaque == EN_JAQUE ||
         nodo.Legales <= JUGADAS_ENTERAS)
         return 0;
     const int reduccion = ReduccionLmr(nodo.Profundidad, nodo.Legales);
@@ -210,13 +217,13 @@ static int HistoricoValorReduccion(const Nodo& nodo, const Jugada& jugada) {
 
 // A capture, already made, that the exchange on its square shows to lose material.
 static bool EsMalaCaptura(const Nodo& nodo, const Jugada& jugada) {
-    return nodo.VentanaNula && nodo.Profundidad >= PROFUNDIDAD_SEE && nodo.EnJaque == 0 && jugada.DaJaque == 0 &&
-           nodo.Legales > JUGADAS_ENTERAS && LejosDelMate(nodo) && EsCaptura(jugada.Movimiento) &&
-           See(jugada.Movimiento, TableroGlobal.Turno) < 0;
+    return nodo.VentanaNula && nodo.Profundidad >= PROFUNDIDAD_SEE && nodo.EnJaque == SIN_JAQUE &&
+           jugada.DaJaque == SIN_JAQUE && nodo.Legales > JUGADAS_ENTERAS && LejosDelMate(nodo) &&
+           EsCaptura(jugada.Movimiento) && See(jugada.Movimiento, TableroGlobal.Turno) < 0;
 }
 
 static int BuscarHijo(const Jugada& jugada, int profundidad, int alfa, int beta) {
-    return -AlphaBeta_Pv(profundidad, -beta, -alfa, jugada.DaJaque, 0, jugada.Movimiento);
+    return -AlphaBeta_Pv(profundidad, -beta, -alfa, jugada.DaJaque, CON_NULO, jugada.Movimiento);
 }
 
 // The first move is expected to be the best one: it gets the whole window.
@@ -290,21 +297,23 @@ int AlphaBeta_Pv(int profundidad, int alfa, int beta, int en_jaque, int sin_nulo
 
     // 5. Horizon. The per-ply tables end at the last ply, so no move is made there.
     if (profundidad < 1 || nodo.Ply >= ULTIMO_PLY)
-        return AlphaBeta_Qs(nodo.Alfa, nodo.Beta, en_jaque, nodo.VentanaNula, 1);
+        return AlphaBeta_Qs(nodo.Alfa, nodo.Beta, en_jaque, nodo.VentanaNula ? VENTANA_NULA : VENTANA_ABIERTA,
+                            PRIMER_NIVEL);
 
     // 6. Hash move of the root: the first iterations go on with the line just found.
     if (raiz && TipoJuego.ProfundidadActual < ITERACION_CON_TABLA)
         nodo.MovTabla = pv_line[0][0] != 0 ? pv_line[0][0] : MovimientoDeTabla();
 
     // 7. Static pruning, outside the principal variation and out of check.
-    if (!raiz && nodo.VentanaNula && en_jaque == 0) {
+    if (!raiz && nodo.VentanaNula && en_jaque == SIN_JAQUE) {
         nodo.Evaluacion = Evaluar();
         if (LejosDelMate(nodo) && PodaEstatica(nodo, sin_nulo, &puntos)) return puntos;
     }
 
     // 8. Internal iterative deepening: a shallower search of this node finds the move to begin with.
-    if (!raiz && !nodo.VentanaNula && en_jaque == 0 && nodo.MovTabla == 0 && profundidad >= PROFUNDIDAD_INTERNA) {
-        AlphaBeta_Pv(profundidad - REDUCCION_INTERNA, nodo.Alfa, nodo.Beta, 0, 1, 0);
+    if (!raiz && !nodo.VentanaNula && en_jaque == SIN_JAQUE && nodo.MovTabla == 0 &&
+        profundidad >= PROFUNDIDAD_INTERNA) {
+        AlphaBeta_Pv(profundidad - REDUCCION_INTERNA, nodo.Alfa, nodo.Beta, SIN_JAQUE, SIN_NULO, SIN_PREVIO);
         if (TipoJuego.Parar == 1) return 0;
         nodo.MovTabla = MovimientoDeTabla();
     }
@@ -350,7 +359,7 @@ int AlphaBeta_Pv(int profundidad, int alfa, int beta, int en_jaque, int sin_nulo
             GuardarLinea(nodo, i);
             continue;
         }
-        if (en_jaque == 0 && EsTranquilo(jugada.Movimiento))
+        if (en_jaque == SIN_JAQUE && EsTranquilo(jugada.Movimiento))
             HistoricoActualizar(profundidad, puntos, jugada.Movimiento, previo, lista, nodo.Legales);
         GuardarLinea(nodo, i);
         if (raiz) break;
@@ -359,7 +368,7 @@ int AlphaBeta_Pv(int profundidad, int alfa, int beta, int en_jaque, int sin_nulo
     }
 
     // 11. Mate, stalemate, or the best move's score. Neither of the first two is stored.
-    if (nodo.Legales == 0) return en_jaque != 0 ? nodo.Ply - VALOR_MATE : VALOR_TABLAS;
+    if (nodo.Legales == 0) return en_jaque == EN_JAQUE ? nodo.Ply - VALOR_MATE : VALOR_TABLAS;
     if (raiz) RecuperarMejorRaiz();
     const int cota = nodo.Mejor <= alfa ? COTA_SUPERIOR : nodo.Mejor >= nodo.Beta ? COTA_INFERIOR : COTA_EXACTA;
     AlmacenarPosicion(profundidad, nodo.Mejor, cota, nodo.MejorMovimiento);

@@ -53,7 +53,7 @@ static int InicioBusqueda() {
 
 static int Iniciar_AlphaBeta(int profundidad, int alfa, int beta, int en_jaque) {
     IndiceMejorRaiz = -1;
-    return AlphaBeta_Pv(profundidad, alfa, beta, en_jaque, 0, 0);
+    return AlphaBeta_Pv(profundidad, alfa, beta, en_jaque, CON_NULO, SIN_PREVIO);
 }
 
 // Aspiration windows: the score is expected near that of the iteration before. The window widens around that score

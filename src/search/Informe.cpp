@@ -12,9 +12,8 @@
 #include "search/Transposicion.h"
 #include "tablebases/Gaviota.h"
 
-constexpr int COORDENADAS_MAX = 6;    // a move with promotion letter and terminator
-constexpr int TEXTO_PV_MAX    = 400;  // characters of the line
-constexpr int TEXTO_PUNTOS    = 32;   // score with its label
+constexpr int TEXTO_PV_MAX = 400;  // characters of the line
+constexpr int TEXTO_PUNTOS = 32;   // score with its label
 
 constexpr float TERCIO = 0.33333334F;  // of the allotted time
 

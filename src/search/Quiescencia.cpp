@@ -59,7 +59,7 @@ int AlphaBeta_Qs(int alfa, int beta, int en_jaque, int ventana_nula, int primer_
     // 1. Node count; a line of best play ends where quiescence begins.
     ++TipoJuego.Nodos;
     const int ply = TableroGlobal.Ply;
-    if (ply > 0 && ventana_nula == 0) pv_line[ply][0] = 0;
+    if (ply > 0 && ventana_nula == VENTANA_ABIERTA) pv_line[ply][0] = 0;
 
     // 2. Clock and input.
     ComprobarTiempo();
@@ -70,11 +70,12 @@ int AlphaBeta_Qs(int alfa, int beta, int en_jaque, int ventana_nula, int primer_
 
     // 4. Transposition table. Deeper captures are too many and too short-lived for it; evasions are worth keeping at
     // any level.
-    const bool    con_tabla     = en_jaque == 1 || primer_nivel == 1;
-    const bool    poda_capturas = primer_nivel == 0 && en_jaque == 0;
+    const bool    con_tabla     = en_jaque == EN_JAQUE || primer_nivel == PRIMER_NIVEL;
+    const bool    poda_capturas = primer_nivel == NIVEL_HONDO && en_jaque == SIN_JAQUE;
     int           puntos_tabla  = -VALOR_INFINITO;
     std::uint32_t mov_tabla     = 0;
-    if (con_tabla && RecuperarPosicion(alfa, beta, PROFUNDIDAD_QS, &puntos_tabla, &mov_tabla) && ventana_nula == 1)
+    if (con_tabla && RecuperarPosicion(alfa, beta, PROFUNDIDAD_QS, &puntos_tabla, &mov_tabla) &&
+        ventana_nula == VENTANA_NULA)
         return puntos_tabla;
 
     // 5. The per-ply tables end here.
@@ -85,14 +86,14 @@ int AlphaBeta_Qs(int alfa, int beta, int en_jaque, int ventana_nula, int primer_
     int evaluacion = 0;
     int mejor      = -VALOR_INFINITO;
     int alfa_nodo  = alfa;
-    if (en_jaque == 0) {
+    if (en_jaque == SIN_JAQUE) {
         evaluacion = Evaluar();
         if (evaluacion >= beta) return evaluacion;
         mejor     = evaluacion;
         alfa_nodo = std::max(alfa, evaluacion);
     }
     ListaMovimientos lista;
-    const int        numero = GenerarMovimientos(en_jaque == 0 ? GENERAR_CAPTURAS : GENERAR_TODOS, lista);
+    const int        numero = GenerarMovimientos(en_jaque == SIN_JAQUE ? GENERAR_CAPTURAS : GENERAR_TODOS, lista);
     OrdenarMovimientosTodos(numero, mov_tabla, lista, 0);
 
     // 7. The moves.
@@ -108,7 +109,7 @@ int AlphaBeta_Qs(int alfa, int beta, int en_jaque, int ventana_nula, int primer_
             continue;
         }
         PrecargarCache(TableroGlobal.Key);
-        const int puntos = -AlphaBeta_Qs(-beta, -alfa_nodo, TurnoEnJaque(), ventana_nula, 0);
+        const int puntos = -AlphaBeta_Qs(-beta, -alfa_nodo, TurnoEnJaque(), ventana_nula, NIVEL_HONDO);
         DeshacerMovimiento();
         if (TipoJuego.Parar == 1) return 0;
 
@@ -123,7 +124,7 @@ int AlphaBeta_Qs(int alfa, int beta, int en_jaque, int ventana_nula, int primer_
     }
 
     // 8. Mate, or the best of what was tried.
-    if (mejor == -VALOR_INFINITO) return en_jaque == 1 ? ply - VALOR_MATE : VALOR_TABLAS;
+    if (mejor == -VALOR_INFINITO) return en_jaque == EN_JAQUE ? ply - VALOR_MATE : VALOR_TABLAS;
     if (con_tabla)
         AlmacenarPosicion(PROFUNDIDAD_QS, mejor, mejor_movimiento != 0 ? COTA_EXACTA : COTA_SUPERIOR, mejor_movimiento);
     return mejor;
