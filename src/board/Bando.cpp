@@ -6,14 +6,10 @@
 RegistroBando Blancas;
 RegistroBando Negras;
 
-// From the first accumulator up to the lists everything is a plain value that starts at 0; of the lists only the
-// lengths matter.
+// From the first accumulator to the end everything is a plain value that starts at 0.
 static void LimpiarEvaluacion(RegistroBando& bando) {
     constexpr std::size_t PRIMERO = offsetof(RegistroBando, Puntos_OP);
-    constexpr std::size_t FIN     = offsetof(RegistroBando, ListaPeones);
-    std::memset(reinterpret_cast<unsigned char*>(&bando) + PRIMERO, 0, FIN - PRIMERO);
-    bando.ListaPeones.Numero = bando.ListaCaballos.Numero = bando.ListaAlfiles.Numero = 0;
-    bando.ListaTorres.Numero = bando.ListaDamas.Numero = 0;
+    std::memset(reinterpret_cast<unsigned char*>(&bando) + PRIMERO, 0, sizeof bando - PRIMERO);
 }
 
 static void LimpiarContadores(RegistroBando& bando) {

@@ -7,13 +7,7 @@
 
 constexpr int OBJETIVOS_MAX = 112;  // capacity of RegistroBando::Objetivos
 
-// Squares of one kind of piece of a side. Room for a whole board, so that no absurd position overruns it.
-struct ListaCasillas {
-    int          Numero;
-    std::uint8_t Casillas[64];
-};
-
-// All values of one evaluation; LimpiarPuntuacion sets every byte but the list contents to 0.
+// Piece counters, and from Puntos_OP on the values of one evaluation.
 struct RegistroBando {
     // Pieces on the board, kings not counted. Set-up and make/unmake maintain them.
     int Peones;
@@ -32,21 +26,11 @@ struct RegistroBando {
     int Ataque_Valor;   // summed weight of the attacks on the enemy king zone
     int Ataque_Numero;  // pieces of the side that attack the enemy king zone
 
-    int          Peones_Septima;      // own pawns on the side's seventh rank
-    int          Peones_Columna[10];  // own pawns by file, [file + 1]; 0 and 9 are empty sentinels
-    std::uint8_t Ataque_Peon[64];     // own pawns that attack the square
-    std::uint8_t Defensa[64];         // own pieces that defend the (own-occupied) square
+    int          Peones_Septima;  // own pawns on the side's seventh rank
+    std::uint8_t Defensa[64];     // own pieces that defend the (own-occupied) square
     int          Numero_Objetivos;
     std::uint8_t Objetivos[OBJETIVOS_MAX];  // squares of enemy pieces, king included, that own pieces attack;
                                             // one entry an attack, dropped when full
-
-    // Squares of the side's pieces. Pawns: most advanced first. Others: in generation order
-    // (White from h1 to a8, Black from a8 to h1).
-    ListaCasillas ListaPeones;
-    ListaCasillas ListaCaballos;
-    ListaCasillas ListaAlfiles;
-    ListaCasillas ListaTorres;
-    ListaCasillas ListaDamas;
 };
 extern RegistroBando Blancas;
 extern RegistroBando Negras;

@@ -1,12 +1,13 @@
-#include "eval/Amenazas.h"
-
-#include "eval/Listas.h"
+// Threats.
+#include "eval/Conjuntos.h"
 #include "eval/Pesos.h"
+#include "eval/Terminos.h"
 
+// Centipawns for each attacked and undefended enemy piece, by its piece code (either colour).
 // clang-format off
-//                            --   P   N   B   R   Q   K  --   P   N   B   R   Q   K  --  --
-const int att_on_hang_mg[16] = {0, 11, 15, 15, 17, 25,  0,  0, 11, 15, 15, 17, 25,  0,  0,  0};
-const int att_on_hang_eg[16] = {0, 19, 23, 23, 25, 33,  0,  0, 19, 23, 23, 25, 33,  0,  0,  0};
+//                               --   P   N   B   R   Q   K  --   P   N   B   R   Q   K  --  --
+constexpr int att_on_hang_mg[16] = {0, 11, 15, 15, 17, 25,  0,  0, 11, 15, 15, 17, 25,  0,  0,  0};
+constexpr int att_on_hang_eg[16] = {0, 19, 23, 23, 25, 33,  0,  0, 19, 23, 23, 25, 33,  0,  0,  0};
 // clang-format on
 
 namespace {

@@ -1,7 +1,7 @@
-#include "eval/Apertura.h"
-
+// Development rules of the opening.
 #include "eval/Espejo.h"
 #include "eval/Par.h"
+#include "eval/Terminos.h"
 
 namespace {
 

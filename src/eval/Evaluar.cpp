@@ -4,14 +4,10 @@
 #include <cstdint>
 
 #include "board/Puntuacion.h"
-#include "eval/Amenazas.h"
-#include "eval/Apertura.h"
 #include "eval/Material.h"
 #include "eval/Par.h"
-#include "eval/Peones.h"
-#include "eval/Piezas.h"
 #include "eval/SeguridadRey.h"
-#include "eval/Torres.h"
+#include "eval/Terminos.h"
 #include "eval/finales/Dificiles.h"
 #include "eval/finales/Kpk.h"
 #include "eval/finales/Reconocidos.h"
@@ -27,7 +23,6 @@ constexpr int   PESO_RIVAL       = 104;
 constexpr int   PESO_TROPISMO    = 20;
 constexpr Par   BONUS_TURNO      = {5, 10};  // for the right to move
 constexpr int   FASE_FINAL       = 9;        // the recognisers of endings are asked up to this phase
-constexpr int   ATAQUE_VALOR_MAX = 399;      // last entry of KING_ATTACK_MULTI
 constexpr int   FINAL_TABLAS     = 0;
 constexpr float INVERSO_FASE_MAX = 0.041666668F;
 
@@ -50,7 +45,7 @@ int PuntosFinalReconocido() {
 // The attack on the enemy king needs two pieces and a queen on the attacking side.
 int PuntosAtaque(RegistroBando& bando, int peso) {
     if (bando.Ataque_Numero <= 1) return 0;
-    bando.Ataque_Valor = bando.Damas == 0 ? 0 : std::min(bando.Ataque_Valor, ATAQUE_VALOR_MAX);
+    bando.Ataque_Valor = bando.Damas == 0 ? 0 : std::min(bando.Ataque_Valor, ATAQUE_MAX);
     return Porcentaje(KING_ATTACK_MULTI[bando.Ataque_Valor], peso);
 }
 
@@ -126,6 +121,5 @@ void Iniciar_Asimetrico() {
 }
 
 void Iniciar_Evaluacion() {
-    Iniciar_SeguridadRey();
     IniciarKpk();
 }

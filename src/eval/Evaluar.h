@@ -21,6 +21,5 @@ extern int AJUSTE_ATT[2];
 // earlier searches with whatever weights they had.
 void Iniciar_Asimetrico();
 
-// Fills the computed tables (king attack, endgame bitbase). To be called once at start-up, before any
-// evaluation.
+// Fills the table of the pawn ending. To be called once at start-up, before any evaluation.
 void Iniciar_Evaluacion();

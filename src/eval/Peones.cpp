@@ -1,10 +1,9 @@
-// The structure is found for all pawns of a side at once, as sets of squares in which a step or a scan is a shift; what
-// each property is worth is then added pawn by pawn.
-#include "eval/Peones.h"
+// Pawn structure and passed pawns: what each property that Conjuntos knows, and some more, are worth.
 
+#include "eval/Conjuntos.h"
 #include "eval/Espejo.h"
-#include "eval/Listas.h"
 #include "eval/Par.h"
+#include "eval/Terminos.h"
 #include "eval/Tropismo.h"
 
 namespace {
@@ -94,58 +93,17 @@ constexpr Conjunto ALA_REY  = ALA_DAMA << 4;     // files e to h
 template <int C>
 constexpr Conjunto CENTRO_AVANZADO = Bit(En<C>("d5")) | Bit(En<C>("e5")) | Bit(En<C>("d6")) | Bit(En<C>("e6"));
 
-// The squares that have a square of the set ahead of them on their file.
-template <int C>
-constexpr Conjunto Detras(Conjunto conjunto) {
-    return Retroceder<C>(HastaElFinal<RIVAL<C>>(conjunto));
-}
-// All squares of the files on which the set has one.
-constexpr Conjunto RellenarColumnas(Conjunto conjunto) {
-    return HastaElFinal<BLANCO>(conjunto) | HastaElFinal<NEGRO>(conjunto);
-}
-
-// The own pawns that have each property.
-struct Estructura {
-    Conjunto Peones;
-    Conjunto Doblados;  // an own pawn stands ahead on the file: all of a file but the most advanced
-    Conjunto Abiertos;  // no enemy pawn ahead on the file
-    Conjunto Pasados;
-    Conjunto Falange;
-    Conjunto Defendidos;
-    Conjunto Aislados;
-    Conjunto Retrasados;
-    Conjunto Candidatos;
-};
-
 // Candidate: a pawn with a neighbour beside it and an enemy pawn two squares ahead, the usual lever, when no other
 // enemy pawn can join in: none ahead on the adjacent files and, the wing's majority being what counts, none
 // ahead on the file two away towards the near edge (the c and d files look at a and b, the e and f files at g and h).
 // Two squares ahead are on the board only below the seventh rank.
 template <int C>
-Conjunto BuscarCandidatos(const Estructura& e, Conjunto rivales, Conjunto detras_rival) {
-    const Conjunto palanca = e.Falange & ~e.Abiertos & Retroceder<C>(Retroceder<C>(rivales));
-    const Conjunto a_dos   = (HaciaH(HaciaH(detras_rival)) & ALA_DAMA) | (HaciaA(HaciaA(detras_rival)) & ALA_REY);
-    return palanca & ~Lados(detras_rival) & ~a_dos;
-}
-
-template <int C>
-Estructura Analizar(Conjunto peones, Conjunto rivales) {
+Conjunto BuscarCandidatos(Conjunto falange) {
+    const Conjunto rivales      = Conjuntos[RIVAL<C>].Peones;
     const Conjunto detras_rival = Detras<C>(rivales);
-    const Conjunto defendidas   = Avanzar<C>(Lados(peones));
-    const Conjunto apoyables    = ~(COLUMNA_A | COLUMNA_H | FilaEntera<C>(0));  // both squares behind exist
-
-    Estructura e{};
-    e.Peones   = peones;
-    e.Doblados = peones & Detras<C>(peones);
-    // Behind another own pawn a pawn is open only on a file without enemy pawns, wherever these stand.
-    e.Abiertos   = peones & ~(detras_rival | (e.Doblados & RellenarColumnas(rivales)));
-    e.Pasados    = e.Abiertos & ~Lados(detras_rival);
-    e.Falange    = peones & Lados(peones);
-    e.Defendidos = peones & defendidas;
-    e.Aislados   = peones & ~Lados(RellenarColumnas(peones));
-    e.Retrasados = peones & ~defendidas & apoyables & Retroceder<C>(Lados(peones));
-    e.Candidatos = BuscarCandidatos<C>(e, rivales, detras_rival);
-    return e;
+    const Conjunto palanca      = falange & ~Conjuntos[C].Abiertos & Retroceder<C>(Retroceder<C>(rivales));
+    const Conjunto a_dos        = (HaciaH(HaciaH(detras_rival)) & ALA_DAMA) | (HaciaA(HaciaA(detras_rival)) & ALA_REY);
+    return palanca & ~Lados(detras_rival) & ~a_dos;
 }
 
 template <int C>
@@ -185,34 +143,37 @@ void SumarTabla(Conjunto conjunto, const TablaEspejo& tabla_op, const TablaEspej
     }
 }
 
-// Doubled, isolated and backward pawns.
 template <int C>
-void EvaluarDebilidades(const Estructura& e) {
-    Sumar<C>(PENALIZACION_PEON_DOUBLED, -Cuantas(e.Doblados));
-    SumarApertura<C>(PENALIZACION_PEON_ISOLATED.OP, -Cuantas(e.Aislados) - Cuantas(e.Aislados & e.Abiertos));
-    SumarFinal<C>(PENALIZACION_PEON_ISOLATED.EG, -Cuantas(e.Aislados));
-    SumarApertura<C>(PENALIZACION_PEON_RETRASADO.OP, -Cuantas(e.Retrasados & e.Abiertos));
-    SumarFinal<C>(PENALIZACION_PEON_RETRASADO.EG, -Cuantas(e.Retrasados));
-    for (Conjunto resto = e.Retrasados; resto != 0;)
+void EvaluarDebilidades() {
+    const ConjuntosBando& propios = Conjuntos[C];
+    Sumar<C>(PENALIZACION_PEON_DOUBLED, -Cuantas(propios.Doblados));
+    SumarApertura<C>(PENALIZACION_PEON_ISOLATED.OP,
+                     -Cuantas(propios.Aislados) - Cuantas(propios.Aislados & propios.Abiertos));
+    SumarFinal<C>(PENALIZACION_PEON_ISOLATED.EG, -Cuantas(propios.Aislados));
+    SumarApertura<C>(PENALIZACION_PEON_RETRASADO.OP, -Cuantas(propios.Retrasados & propios.Abiertos));
+    SumarFinal<C>(PENALIZACION_PEON_RETRASADO.EG, -Cuantas(propios.Retrasados));
+    for (Conjunto resto = propios.Retrasados; resto != 0;)
         SumarApertura<C>(PENALIZACION_PEON_RETRASADO_MALUS[Columna(SacarCasilla(resto))]);
 }
 
 template <int C>
 void EvaluarPeones() {
-    const Estructura e = Analizar<C>(Conjuntos[C].Peones, Conjuntos[RIVAL<C>].Peones);
+    const ConjuntosBando& propios    = Conjuntos[C];
+    const Conjunto        falange    = propios.Peones & Lados(propios.Peones);
+    const Conjunto        defendidos = propios.Peones & propios.Ataque_Peones;
 
-    EvaluarDebilidades<C>(e);
-    SumarTabla<C>(e.Falange, PST_BONUS_FALANGE_OP, PST_BONUS_FALANGE_EG);
-    SumarTabla<C>(e.Defendidos & ~e.Falange, PST_BONUS_DEFENDED_OP, PST_BONUS_DEFENDED_EG);
-    for (Conjunto resto = e.Candidatos; resto != 0;) {
+    EvaluarDebilidades<C>();
+    SumarTabla<C>(falange, PST_BONUS_FALANGE_OP, PST_BONUS_FALANGE_EG);
+    SumarTabla<C>(defendidos & ~falange, PST_BONUS_DEFENDED_OP, PST_BONUS_DEFENDED_EG);
+    for (Conjunto resto = BuscarCandidatos<C>(falange); resto != 0;) {
         const int fila = FilaRelativa<C>(SacarCasilla(resto));
         Sumar<C>(Truncar(BONUS_PASSED[fila], UN_TERCIO), Truncar(BONUS_PASSED[PASADO_EG + fila], UN_TERCIO));
     }
     const bool rival_sin_piezas = SinPiezas<RIVAL<C>>();
-    for (Conjunto resto = e.Pasados; resto != 0;) EvaluarPasado<C>(SacarCasilla(resto), rival_sin_piezas);
+    for (Conjunto resto = propios.Pasados; resto != 0;) EvaluarPasado<C>(SacarCasilla(resto), rival_sin_piezas);
 
-    SumarTabla<C>(e.Peones, PST_P_OP, PST_P_EG);
-    SumarApertura<C>(BONUS_PEON_CENTRAL_AVANZADO, Cuantas(e.Peones & CENTRO_AVANZADO<C>));
+    SumarTabla<C>(propios.Peones, PST_P_OP, PST_P_EG);
+    SumarApertura<C>(BONUS_PEON_CENTRAL_AVANZADO, Cuantas(propios.Peones & CENTRO_AVANZADO<C>));
 }
 
 }  // namespace

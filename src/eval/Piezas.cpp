@@ -1,11 +1,11 @@
-#include "eval/Piezas.h"
-
+// Knights, bishops and queens, and the attack maps of all pieces.
 #include <algorithm>
 #include <cstddef>
 
+#include "eval/Conjuntos.h"
 #include "eval/Espejo.h"
-#include "eval/Listas.h"
 #include "eval/Pesos.h"
+#include "eval/Terminos.h"
 #include "eval/Tropismo.h"
 
 // What knights, bishops and queens have in common: placement, mobility, nearness to the enemy king and attack on him.
@@ -269,7 +269,7 @@ static void LlenarMapas() {
 }
 
 void EvaluarPiezasTableroJuego() {
-    ListarPiezas();
+    ReunirConjuntos();
     EvaluarCaballos<BLANCO>();
     EvaluarCaballos<NEGRO>();
     EvaluarAlfiles<BLANCO>();

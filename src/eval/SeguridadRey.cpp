@@ -1,14 +1,35 @@
 #include "eval/SeguridadRey.h"
 
 #include <algorithm>
+#include <cstddef>
 
+#include "eval/Conjuntos.h"
 #include "eval/Espejo.h"
-#include "eval/Listas.h"
 #include "eval/Pesos.h"
-
-int KING_ATTACK_MULTI[ATAQUE_MAX];
+#include "eval/Terminos.h"
 
 namespace {
+
+// The curve of KING_ATTACK_MULTI: a parabola with a dead start up to its joint, then three centipawns a step and a
+// fourth at every eighth.
+constexpr int ATAQUE_MUERTO  = 10;  // below, nothing threatens yet
+constexpr int ATAQUE_EMPALME = 150;
+constexpr int VALOR_EMPALME  = 240;
+constexpr int VALOR_ATAQUE   = 500;  // the most that an attack is worth
+
+constexpr int ValorAtaque(int peso) {
+    if (peso < ATAQUE_MUERTO) return 0;
+    constexpr int CUADRADO = ATAQUE_EMPALME * ATAQUE_EMPALME;
+    if (peso <= ATAQUE_EMPALME) return (peso * peso * VALOR_EMPALME + CUADRADO / 2) / CUADRADO;
+    const int pasos = peso - ATAQUE_EMPALME;
+    return std::min(VALOR_EMPALME + 3 * pasos + pasos / 8, VALOR_ATAQUE);
+}
+
+constexpr TablaAtaque CalcularAtaques() {
+    TablaAtaque tabla{};
+    for (int peso = 0; peso <= ATAQUE_MAX; ++peso) tabla.Valores[peso] = ValorAtaque(peso);
+    return tabla;
+}
 
 // Relative rank of the pawn nearest to the back rank of C; that of the eighth for none.
 template <int C>
@@ -122,26 +143,9 @@ void EvaluarRey() {
     EvaluarAsalto<RIVAL<C>>();
 }
 
-// The curve of KING_ATTACK_MULTI: a parabola with a dead start up to its joint, then three centipawns a step and a
-// fourth at every eighth.
-constexpr int ATAQUE_MUERTO  = 10;  // below, nothing threatens yet
-constexpr int ATAQUE_EMPALME = 150;
-constexpr int VALOR_EMPALME  = 240;
-constexpr int VALOR_ATAQUE   = 500;  // the most that an attack is worth
-
-constexpr int ValorAtaque(int peso) {
-    if (peso < ATAQUE_MUERTO) return 0;
-    constexpr int CUADRADO = ATAQUE_EMPALME * ATAQUE_EMPALME;
-    if (peso <= ATAQUE_EMPALME) return (peso * peso * VALOR_EMPALME + CUADRADO / 2) / CUADRADO;
-    const int pasos = peso - ATAQUE_EMPALME;
-    return std::min(VALOR_EMPALME + 3 * pasos + pasos / 8, VALOR_ATAQUE);
-}
-
 }  // namespace
 
-void Iniciar_SeguridadRey() {
-    for (int peso = 0; peso < ATAQUE_MAX; ++peso) KING_ATTACK_MULTI[peso] = ValorAtaque(peso);
-}
+constexpr TablaAtaque KING_ATTACK_MULTI = CalcularAtaques();
 
 void EvaluarReyes() {
     EvaluarRey<BLANCO>();

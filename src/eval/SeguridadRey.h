@@ -1,15 +1,13 @@
-// Kings: placement, pawn shelter, castling, and the attack that the enemy's pieces have built up.
+// What an attack on the king is worth.
 #pragma once
 
-constexpr int ATAQUE_MAX = 400;  // places of KING_ATTACK_MULTI; the weight that indexes it is capped below
+constexpr int ATAQUE_MAX = 399;  // the highest weight that KING_ATTACK_MULTI tells from lower ones
 
-// Centipawns for a king attack by its weight Ataque_Valor: convex up to a weight of 150, nearly straight beyond,
-// and constant once it is worth a rook. Non-decreasing.
-extern int KING_ATTACK_MULTI[ATAQUE_MAX];
+// Centipawns for a king attack by its weight Ataque_Valor, 0..ATAQUE_MAX: convex up to a weight of 150, nearly straight
+// beyond, and constant once it is worth a rook. Non-decreasing.
+struct TablaAtaque {
+    int Valores[ATAQUE_MAX + 1];
 
-// Fills KING_ATTACK_MULTI. To be called once at start-up.
-void Iniciar_SeguridadRey();
-
-// Adds placement, shelter and castling of both kings to Puntos_OP and Puntos_EG, and to Ataque_Valor what each side
-// gains from safe checks and from squares that only the enemy king guards. After pieces and rooks.
-void EvaluarReyes();
+    constexpr int operator[](int peso) const { return Valores[peso]; }
+};
+extern const TablaAtaque KING_ATTACK_MULTI;

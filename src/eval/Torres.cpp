@@ -1,12 +1,12 @@
-#include "eval/Torres.h"
-
+// Rooks.
 #include <array>
 
 #include "board/HacerMovimiento.h"
 #include "board/Movimiento.h"
+#include "eval/Conjuntos.h"
 #include "eval/Espejo.h"
-#include "eval/Listas.h"
 #include "eval/Par.h"
+#include "eval/Terminos.h"
 #include "eval/Tropismo.h"
 #include "search/See.h"
 

@@ -1,9 +1,8 @@
-#include "eval/Amenazas.h"
+#include "eval/Terminos.h"
 
 #include <gtest/gtest.h>
 
 #include "eval/PosicionPrueba.h"
-#include "eval/Torres.h"
 
 namespace {
 

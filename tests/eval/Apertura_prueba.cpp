@@ -1,4 +1,4 @@
-#include "eval/Apertura.h"
+#include "eval/Terminos.h"
 
 #include "eval/PosicionPrueba.h"
 

@@ -4,16 +4,13 @@
 #include <random>
 
 #include "board/Puntuacion.h"
-#include "eval/Amenazas.h"
-#include "eval/Apertura.h"
-#include "eval/finales/Reconocidos.h"
-#include "eval/finales/Dificiles.h"
 #include "eval/Material.h"
-#include "eval/Peones.h"
 #include "eval/PosicionPrueba.h"
 #include "eval/SeguridadRey.h"
-#include "eval/Torres.h"
+#include "eval/Terminos.h"
 #include "eval/Tropismo.h"
+#include "eval/finales/Dificiles.h"
+#include "eval/finales/Reconocidos.h"
 #include "search/Transposicion.h"
 
 namespace {
@@ -69,7 +66,7 @@ TEST_F(Evaluador, LaCacheGuardaDesdeElBlanco) {
 
     Entrada().Puntos = -1234;  // a second call answers from the cache and evaluates nothing
     EXPECT_EQ(Evaluar(), 1234);
-    EXPECT_EQ(Blancas.ListaPeones.Numero, 0);
+    EXPECT_EQ(Blancas.Movilidad_OP, 0);
     TableroGlobal.Turno = BLANCO;
     EXPECT_EQ(Evaluar(), -1234);
 

@@ -1,4 +1,4 @@
-#include "eval/Peones.h"
+#include "eval/Terminos.h"
 
 #include "eval/PosicionPrueba.h"
 

@@ -1,6 +1,6 @@
-// Lists, maps and sets against a plain walk over the board, mobility by counted squares, and pairs of positions that
+// Maps and sets against a plain walk over the board, mobility by counted squares, and pairs of positions that
 // differ in one trait, of which the better one must score more.
-#include "eval/Piezas.h"
+#include "eval/Terminos.h"
 
 #include <gtest/gtest.h>
 
@@ -8,10 +8,9 @@
 #include <numeric>
 #include <vector>
 
-#include "eval/Listas.h"
+#include "eval/Conjuntos.h"
 #include "eval/Pesos.h"
 #include "eval/PosicionPrueba.h"
-#include "eval/Torres.h"
 
 namespace {
 
@@ -56,35 +55,23 @@ std::vector<int> AtaquesPasoAPaso(int desde) {
     return ataques;
 }
 
-template <int C>
-std::vector<int> CasillasDe(int pieza, bool desde_a8) {
-    std::vector<int> casillas;
+Conjunto CasillasDePieza(int pieza) {
+    Conjunto casillas = 0;
     for (int casilla = 0; casilla < 64; ++casilla)
-        if (TableroGlobal.Casillas[casilla] == pieza) casillas.push_back(casilla);
-    if (!desde_a8) std::reverse(casillas.begin(), casillas.end());
+        if (TableroGlobal.Casillas[casilla] == pieza) casillas |= Bit(casilla);
     return casillas;
 }
 
-std::vector<int> Contenido(const ListaCasillas& lista) {
-    return {lista.Casillas, lista.Casillas + lista.Numero};
-}
-
 template <int C>
-void CompararListas() {
-    const RegistroBando& bando = BandoDe<C>();
-    EXPECT_EQ(Contenido(bando.ListaPeones), CasillasDe<C>(PEON<C>, C == BLANCO));
-    EXPECT_EQ(Contenido(bando.ListaCaballos), CasillasDe<C>(CABALLO<C>, C == NEGRO));
-    EXPECT_EQ(Contenido(bando.ListaAlfiles), CasillasDe<C>(ALFIL<C>, C == NEGRO));
-    EXPECT_EQ(Contenido(bando.ListaTorres), CasillasDe<C>(TORRE<C>, C == NEGRO));
-    EXPECT_EQ(Contenido(bando.ListaDamas), CasillasDe<C>(DAMA<C>, C == NEGRO));
-
-    int columnas[10] = {}, septima = 0;
-    for (const int peon : CasillasDe<C>(PEON<C>, true)) {
-        ++columnas[Columna(peon) + 1];
-        septima += FilaRelativa<C>(peon) == 6 ? 1 : 0;
-    }
-    EXPECT_TRUE(std::equal(columnas, columnas + 10, bando.Peones_Columna));
-    EXPECT_EQ(bando.Peones_Septima, septima);
+void CompararConjuntos() {
+    const ConjuntosBando& propios = Conjuntos[C];
+    EXPECT_EQ(propios.Peones, CasillasDePieza(PEON<C>));
+    EXPECT_EQ(propios.Caballos, CasillasDePieza(CABALLO<C>));
+    EXPECT_EQ(propios.Alfiles, CasillasDePieza(ALFIL<C>));
+    EXPECT_EQ(propios.Torres, CasillasDePieza(TORRE<C>));
+    EXPECT_EQ(propios.Damas, CasillasDePieza(DAMA<C>));
+    EXPECT_EQ(propios.Rey, CasillasDePieza(REY<C>));
+    EXPECT_EQ(BandoDe<C>().Peones_Septima, Cuantas(propios.Peones & FilaEntera<C>(6)));
 }
 
 // Rooks enter Defensa and Objetivos in their own evaluation, which has run before this.
@@ -104,7 +91,7 @@ void CompararAtaques() {
     for (int casilla = 0; casilla < 64; ++casilla) {
         SCOPED_TRACE(casilla);
         const int pieza = TableroGlobal.Casillas[casilla];
-        EXPECT_EQ(bando.Ataque_Peon[casilla], peones[casilla]);
+        EXPECT_EQ(Contiene(Conjuntos[C].Ataque_Peones, casilla), peones[casilla] > 0);
         EXPECT_EQ(bando.Defensa[casilla], EsPropia<C>(pieza) ? todos[casilla] : 0);
         EXPECT_EQ(Contiene(ConUnoOMas(Conjuntos[C].Ataques), casilla), todos[casilla] >= 1);
         EXPECT_EQ(Contiene(ConDosOMas(Conjuntos[C].Ataques), casilla), todos[casilla] >= 2);
@@ -114,7 +101,7 @@ void CompararAtaques() {
     }
 }
 
-TEST_F(Piezas, ListasYMapasComoElRecorridoPasoAPaso) {
+TEST_F(Piezas, ConjuntosYMapasComoElRecorridoPasoAPaso) {
     for (const char* fen : POSICIONES) {
         SCOPED_TRACE(fen);
         CargarPosicion(fen);
@@ -122,8 +109,8 @@ TEST_F(Piezas, ListasYMapasComoElRecorridoPasoAPaso) {
         EvaluarPiezasTableroJuego();
         EvaluarTorreB();
         EvaluarTorreN();
-        CompararListas<BLANCO>();
-        CompararListas<NEGRO>();
+        CompararConjuntos<BLANCO>();
+        CompararConjuntos<NEGRO>();
         CompararAtaques<BLANCO>();
         CompararAtaques<NEGRO>();
     }

@@ -11,7 +11,7 @@
 #include "board/Zobrist.h"
 #include "eval/Espejo.h"
 #include "eval/Evaluar.h"
-#include "eval/Piezas.h"
+#include "eval/Terminos.h"
 
 class Evaluacion : public testing::Test {
 protected:

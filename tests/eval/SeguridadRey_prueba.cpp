@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include "eval/PosicionPrueba.h"
+#include "eval/Terminos.h"
 
 namespace {
 
@@ -16,7 +17,7 @@ TEST_F(SeguridadRey, LaCurvaPasaPorSusPuntos) {
                                  {100, 107}, {125, 167}, {150, 240}, {151, 243}, {157, 261}, {158, 265},
                                  {175, 318}, {200, 396}, {225, 474}, {233, 499}, {234, 500}, {399, 500}};
     for (const auto& [peso, valor] : PUNTOS) EXPECT_EQ(KING_ATTACK_MULTI[peso], valor) << "weight " << peso;
-    EXPECT_TRUE(std::is_sorted(std::begin(KING_ATTACK_MULTI), std::end(KING_ATTACK_MULTI)));
+    EXPECT_TRUE(std::is_sorted(std::begin(KING_ATTACK_MULTI.Valores), std::end(KING_ATTACK_MULTI.Valores)));
 }
 
 struct CasoPareja {

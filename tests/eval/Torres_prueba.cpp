@@ -1,4 +1,4 @@
-#include "eval/Torres.h"
+#include "eval/Terminos.h"
 
 #include <cstring>
 

@@ -1,5 +1,5 @@
-// What one pass over the board finds out for the rest of the evaluation: where the pieces stand and what the pawns
-// control, as lists and maps in the side records and as sets of squares here.
+// What one pass over the board finds out for the rest of the evaluation: where the pieces stand, what the pawns control
+// and which of them are strong or weak.
 #pragma once
 
 #include <array>
@@ -61,7 +61,8 @@ inline void EscribirCuenta(const Cuenta& cuenta, Conjunto cuales, std::uint8_t (
     std::memcpy(mapa, filas, sizeof filas);
 }
 
-// Sets of squares of one side. ListarPiezas fills the first groups; the piece evaluation adds what the pieces attack.
+// Sets of squares of one side. ReunirConjuntos fills the first groups; the piece evaluation adds what the pieces
+// attack.
 struct ConjuntosBando {
     Conjunto Todas;  // all pieces, king included
     Conjunto Peones;
@@ -75,6 +76,12 @@ struct ConjuntosBando {
     Conjunto Zona_Exterior;  // the three squares in front of that zone, if no pawn of the side guards them
     Conjunto Alcance_Peon;   // squares that the side's pawns attack now or after any advance
 
+    Conjunto Doblados;    // own pawns with an own pawn ahead on the file: all of a file but the most advanced
+    Conjunto Abiertos;    // ... no enemy pawn ahead on the file; a doubled one only where the file has none at all
+    Conjunto Pasados;     // ... open, and no enemy pawn ahead on the adjacent files
+    Conjunto Aislados;    // ... no own pawn on the adjacent files
+    Conjunto Retrasados;  // ... behind a neighbour that has gone ahead, and no own pawn may come to its defence
+
     Conjunto Ataque_Peones;  // attacked by pawns, and so on
     Conjunto Ataque_Caballos;
     Conjunto Ataque_Alfiles;
@@ -86,6 +93,11 @@ struct ConjuntosBando {
 extern ConjuntosBando Conjuntos[2];  // [colour]
 extern Conjunto       Ocupadas;      // squares that are not empty
 
-// Fills, for both sides, the piece lists, Ataque_Peon, Peones_Columna and Peones_Septima of the (cleared) side
-// records, and the sets above but those of the pieces' attacks, which it empties.
-void ListarPiezas();
+// Fills the sets of both sides, those of the pieces' attacks with nothing, and Peones_Septima of the side records.
+void ReunirConjuntos();
+
+// The squares that have a square of the set ahead of them on their file, as colour C looks.
+template <int C>
+constexpr Conjunto Detras(Conjunto conjunto) {
+    return Retroceder<C>(HastaElFinal<RIVAL<C>>(conjunto));
+}

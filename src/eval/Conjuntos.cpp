@@ -1,20 +1,10 @@
-#include "eval/Listas.h"
+#include "eval/Conjuntos.h"
 
 ConjuntosBando Conjuntos[2];
 Conjunto       Ocupadas;
 
-namespace {
-
-// Pawns are listed the most advanced first, pieces in generation order, which begins at the side's own back rank.
 template <int C>
-void LlenarLista(ListaCasillas& lista, Conjunto piezas) {
-    int n = 0;
-    while (piezas != 0) lista.Casillas[n++] = static_cast<std::uint8_t>(SacarCasillaEnOrden<C>(piezas));
-    lista.Numero = n;
-}
-
-template <int C>
-void ReunirPiezas(const CodigosTablero& codigos) {
+static void ReunirPiezas(const CodigosTablero& codigos) {
     ConjuntosBando& propios = Conjuntos[C];
     propios.Peones          = CasillasCon(codigos, PEON<C>);
     propios.Caballos        = CasillasCon(codigos, CABALLO<C>);
@@ -23,33 +13,44 @@ void ReunirPiezas(const CodigosTablero& codigos) {
     propios.Damas           = CasillasCon(codigos, DAMA<C>);
     propios.Rey             = CasillasCon(codigos, REY<C>);
     propios.Todas = propios.Peones | propios.Caballos | propios.Alfiles | propios.Torres | propios.Damas | propios.Rey;
-
-    RegistroBando& bando = BandoDe<C>();
-    LlenarLista<RIVAL<C>>(bando.ListaPeones, propios.Peones);
-    LlenarLista<C>(bando.ListaCaballos, propios.Caballos);
-    LlenarLista<C>(bando.ListaAlfiles, propios.Alfiles);
-    LlenarLista<C>(bando.ListaTorres, propios.Torres);
-    LlenarLista<C>(bando.ListaDamas, propios.Damas);
 }
 
 template <int C>
-void EvaluarControlPeones() {
-    ConjuntosBando& propios = Conjuntos[C];
-    RegistroBando&  bando   = BandoDe<C>();
-    const Conjunto  hacia_a = Avanzar<C>(HaciaA(propios.Peones));
-    const Conjunto  hacia_h = Avanzar<C>(HaciaH(propios.Peones));
-    for (int columna = 0; columna < 8; ++columna)
-        bando.Peones_Columna[columna + 1] = Cuantas(propios.Peones & ColumnaEntera(columna));
-    bando.Peones_Septima = Cuantas(propios.Peones & FilaEntera<C>(6));
+static void EvaluarControlPeones() {
+    ConjuntosBando& propios     = Conjuntos[C];
+    const Conjunto  hacia_a     = Avanzar<C>(HaciaA(propios.Peones));
+    const Conjunto  hacia_h     = Avanzar<C>(HaciaH(propios.Peones));
+    BandoDe<C>().Peones_Septima = Cuantas(propios.Peones & FilaEntera<C>(6));
 
     propios.Ataque_Peones = hacia_a | hacia_h;
     propios.Alcance_Peon  = AtaquesDePeones<C>(HastaElFinal<C>(propios.Peones));
     propios.Ataques       = Cuenta{{hacia_a ^ hacia_h, hacia_a & hacia_h, 0, 0}};
-    EscribirCuenta(propios.Ataques, ~Conjunto{0}, bando.Ataque_Peon);
+}
+
+// All squares of the files on which the set has one.
+static Conjunto RellenarColumnas(Conjunto conjunto) {
+    return HastaElFinal<BLANCO>(conjunto) | HastaElFinal<NEGRO>(conjunto);
+}
+
+// The structure of all pawns at once: a step or a scan is a shift.
+template <int C>
+static void EvaluarEstructura() {
+    ConjuntosBando& propios      = Conjuntos[C];
+    const Conjunto  peones       = propios.Peones;
+    const Conjunto  rivales      = Conjuntos[RIVAL<C>].Peones;
+    const Conjunto  detras_rival = Detras<C>(rivales);
+    const Conjunto  apoyables    = ~(COLUMNA_A | COLUMNA_H | FilaEntera<C>(0));  // both squares behind exist
+
+    propios.Doblados = peones & Detras<C>(peones);
+    // Behind another own pawn a pawn is open only on a file without enemy pawns, wherever these stand.
+    propios.Abiertos   = peones & ~(detras_rival | (propios.Doblados & RellenarColumnas(rivales)));
+    propios.Pasados    = propios.Abiertos & ~Lados(detras_rival);
+    propios.Aislados   = peones & ~Lados(RellenarColumnas(peones));
+    propios.Retrasados = peones & ~propios.Ataque_Peones & apoyables & Retroceder<C>(Lados(peones));
 }
 
 template <int C>
-void DelimitarZonaRey() {
+static void DelimitarZonaRey() {
     ConjuntosBando& propios = Conjuntos[C];
     const int       rey     = PosicionReyDe<C>();
     propios.Zona_Rey        = ATAQUES_REY[static_cast<std::size_t>(rey)] | Bit(rey);
@@ -58,15 +59,15 @@ void DelimitarZonaRey() {
     propios.Ataque_Rey                                                                              = 0;
 }
 
-}  // namespace
-
-void ListarPiezas() {
+void ReunirConjuntos() {
     const CodigosTablero codigos = LeerTablero();
     ReunirPiezas<BLANCO>(codigos);
     ReunirPiezas<NEGRO>(codigos);
     Ocupadas = Conjuntos[BLANCO].Todas | Conjuntos[NEGRO].Todas;
     EvaluarControlPeones<BLANCO>();
     EvaluarControlPeones<NEGRO>();
+    EvaluarEstructura<BLANCO>();
+    EvaluarEstructura<NEGRO>();
     DelimitarZonaRey<BLANCO>();
     DelimitarZonaRey<NEGRO>();
 }
