@@ -26,18 +26,19 @@ static void CopiarContadores(const RegistroBando& bando, int (&contadores)[5]) {
 }
 
 // Counters and king squares against the board. A position without exactly one king a side came from a foolish FEN
-// and promises nothing.
-static void Recontar() {
+// and promises nothing; then the answer is false.
+static bool Recontar() {
     const RegistroTablero& t          = TableroGlobal;
     int                    numero[16] = {};
     for (const int pieza : t.Casillas) ++numero[pieza & 15];
-    if (Salir || numero[REY_B] != 1 || numero[REY_N] != 1) return;
+    if (Salir || numero[REY_B] != 1 || numero[REY_N] != 1) return false;
     assert(t.Casillas[t.PosicionReyBlanco] == REY_B);
     assert(t.Casillas[t.PosicionReyNegro] == REY_N);
     for (int pieza = PEON_B; pieza <= DAMA_B; ++pieza) {
         assert(Blancas.*CONTADOR[pieza] == numero[pieza]);
         assert(Negras.*CONTADOR[pieza] == numero[pieza + DESFASE_NEGRO]);
     }
+    return true;
 }
 
 static bool MismosBytes(const void* a, const void* b, std::size_t bytes) {
@@ -76,6 +77,13 @@ void CompararCopiaTablero() {
     CopiarContadores(Blancas, contadores[BLANCO]);
     assert(MismosBytes(contadores, c.Contadores, sizeof(contadores)));
     Recontar();
+}
+
+void ComprobarPosicion() {
+    const RegistroTablero& t = TableroGlobal;
+    assert(t.Turno == BLANCO || t.Turno == NEGRO);
+    if (!Recontar() || t.Ply == 0) return;
+    assert(t.Turno == BLANCO ? !JaqueNegras(t.PosicionReyNegro) : !JaqueBlancas(t.PosicionReyBlanco));
 }
 
 #endif

@@ -121,6 +121,16 @@ constexpr Conjunto HastaElFinal(Conjunto conjunto) {
     return conjunto;
 }
 
+// The squares that have a square of the set ahead of them on their file, as colour C looks.
+template <int C>
+constexpr Conjunto Detras(Conjunto conjunto) {
+    return Retroceder<C>(HastaElFinal<RIVAL<C>>(conjunto));
+}
+// All squares of the files on which the set has one.
+constexpr Conjunto RellenarColumnas(Conjunto conjunto) {
+    return HastaElFinal<BLANCO>(conjunto) | HastaElFinal<NEGRO>(conjunto);
+}
+
 namespace conjunto {
 
 constexpr std::array<Conjunto, 64> CalcularSaltos(const std::array<Saltos, 64>& saltos) {

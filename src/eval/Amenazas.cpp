@@ -10,11 +10,9 @@ constexpr int att_on_hang_mg[16] = {0, 11, 15, 15, 17, 25,  0,  0, 11, 15, 15, 1
 constexpr int att_on_hang_eg[16] = {0, 19, 23, 23, 25, 33,  0,  0, 19, 23, 23, 25, 33,  0,  0,  0};
 // clang-format on
 
-namespace {
-
 // Each piece counts once, however many attack it.
 template <int C>
-void EvaluarColgadas() {
+static void EvaluarColgadas() {
     const RegistroBando& bando  = BandoDe<C>();
     const RegistroBando& rival  = BandoDe<RIVAL<C>>();
     Conjunto             vistas = 0;
@@ -29,7 +27,7 @@ void EvaluarColgadas() {
 
 // A piece that more enemies attack than own pieces defend, although it is no loose piece.
 template <int C>
-void EvaluarAsediadas() {
+static void EvaluarAsediadas() {
     const ConjuntosBando& propios = Conjuntos[C];
     const ConjuntosBando& rival   = Conjuntos[RIVAL<C>];
     const Conjunto        una_vez = ConUnoOMas(rival.Ataques) & ~ConDosOMas(rival.Ataques) & ~rival.Ataque_Peones;
@@ -38,7 +36,7 @@ void EvaluarAsediadas() {
 }
 
 template <int C>
-void EvaluarAvances() {
+static void EvaluarAvances() {
     const ConjuntosBando& propios = Conjuntos[C];
     const ConjuntosBando& rival   = Conjuntos[RIVAL<C>];
     const Conjunto        un_paso = Avanzar<C>(propios.Peones) & ~Ocupadas;
@@ -50,7 +48,7 @@ void EvaluarAvances() {
 }
 
 template <int C>
-void EvaluarAmenazasDe() {
+static void EvaluarAmenazasDe() {
     const ConjuntosBando& propios = Conjuntos[C];
     const ConjuntosBando& rival   = Conjuntos[RIVAL<C>];
     const Conjunto        menores = propios.Ataque_Caballos | propios.Ataque_Alfiles;
@@ -64,8 +62,6 @@ void EvaluarAmenazasDe() {
     EvaluarAvances<C>();
     EvaluarColgadas<C>();
 }
-
-}  // namespace
 
 void EvaluarAmenazas() {
     EvaluarAmenazasDe<BLANCO>();

@@ -3,30 +3,28 @@
 #include "eval/Par.h"
 #include "eval/Terminos.h"
 
-namespace {
-
 constexpr int PENALIZACION_PEON_CENTRAL_BLOQUEADO = 20;  // centipawns, opening
 constexpr int PENALIZACION_CABALLO_BLOQUEA_PEON   = 20;
 constexpr int PENALIZACION_ALFIL_BLOQUEADO        = 50;  // on top of that of the pawn that shuts the bishop in
 constexpr int BONUS_ALFIL_ACOMPANA_PEON           = 10;
 
 template <int... CASILLAS>
-bool AlgunoEn(int pieza) {
+static bool AlgunoEn(int pieza) {
     return ((TableroGlobal.Casillas[CASILLAS] == pieza) || ...);
 }
 
 template <int C>
-bool PeonEn(int casilla) {
+static bool PeonEn(int casilla) {
     return TableroGlobal.Casillas[casilla] == PEON<C>;
 }
 
-bool Ocupada(int casilla) {
+static bool Ocupada(int casilla) {
     return TableroGlobal.Casillas[casilla] != VACIO;
 }
 
 // A centre pawn at home with a piece in front of it, and the bishop that it would let out.
 template <int C>
-int PeonBloqueado(int peon, int alfil) {
+static int PeonBloqueado(int peon, int alfil) {
     if (!PeonEn<C>(peon) || !Ocupada(peon + ADELANTE<C>)) return 0;
     const bool encerrado = TableroGlobal.Casillas[alfil] == ALFIL<C>;
     return -PENALIZACION_PEON_CENTRAL_BLOQUEADO - (encerrado ? PENALIZACION_ALFIL_BLOQUEADO : 0);
@@ -35,14 +33,14 @@ int PeonBloqueado(int peon, int alfil) {
 // A knight before its c or f pawn, when the pawn should support its advanced neighbour in the centre and the
 // square beside that neighbour is still free.
 template <int C>
-int CaballoBloquea(int peon, int centro_libre) {
+static int CaballoBloquea(int peon, int centro_libre) {
     const bool bloquea =
         PeonEn<C>(peon) && TableroGlobal.Casillas[peon + ADELANTE<C>] == CABALLO<C> && !Ocupada(centro_libre);
     return bloquea ? -PENALIZACION_CABALLO_BLOQUEA_PEON : 0;
 }
 
 template <int C>
-int PuntosApertura() {
+static int PuntosApertura() {
     int puntos = PeonBloqueado<C>(En<C>("e2"), En<C>("f1")) + PeonBloqueado<C>(En<C>("d2"), En<C>("c1"));
     if (PeonEn<C>(En<C>("d4"))) {
         puntos += CaballoBloquea<C>(En<C>("c2"), En<C>("e4"));
@@ -56,8 +54,6 @@ int PuntosApertura() {
     }
     return puntos;
 }
-
-}  // namespace
 
 void EvaluarApertura() {
     SumarApertura<BLANCO>(PuntosApertura<BLANCO>());

@@ -27,11 +27,6 @@ static void EvaluarControlPeones() {
     propios.Ataques       = Cuenta{{hacia_a ^ hacia_h, hacia_a & hacia_h, 0, 0}};
 }
 
-// All squares of the files on which the set has one.
-static Conjunto RellenarColumnas(Conjunto conjunto) {
-    return HastaElFinal<BLANCO>(conjunto) | HastaElFinal<NEGRO>(conjunto);
-}
-
 // The structure of all pawns at once: a step or a scan is a shift.
 template <int C>
 static void EvaluarEstructura() {

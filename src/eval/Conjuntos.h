@@ -95,9 +95,3 @@ extern Conjunto       Ocupadas;      // squares that are not empty
 
 // Fills the sets of both sides, those of the pieces' attacks with nothing, and Peones_Septima of the side records.
 void ReunirConjuntos();
-
-// The squares that have a square of the set ahead of them on their file, as colour C looks.
-template <int C>
-constexpr Conjunto Detras(Conjunto conjunto) {
-    return Retroceder<C>(HastaElFinal<RIVAL<C>>(conjunto));
-}

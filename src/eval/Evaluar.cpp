@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "board/Comprobacion.h"
 #include "board/Puntuacion.h"
 #include "eval/Material.h"
 #include "eval/Par.h"
@@ -16,8 +17,6 @@
 int AJUSTE_MOB[2];
 int AJUSTE_ATT[2];
 
-namespace {
-
 constexpr int   PESO_PROPIO      = 100;  // percent
 constexpr int   PESO_RIVAL       = 104;
 constexpr int   PESO_TROPISMO    = 20;
@@ -27,30 +26,30 @@ constexpr int   FINAL_TABLAS     = 0;
 constexpr float INVERSO_FASE_MAX = 0.041666668F;
 
 // A score as the side to move sees it, from White's view, and the other way round.
-int DesdeTurno(int puntos) {
+static int DesdeTurno(int puntos) {
     return TableroGlobal.Turno == BLANCO ? puntos : -puntos;
 }
 
-EntradaCache* EntradaDeCache() {
+static EntradaCache* EntradaDeCache() {
     if (TT_Cache == nullptr || TT_Opciones.MegasCache == 0) return nullptr;
     return &TT_Cache[TableroGlobal.Key % TT_Opciones.NumeroCache];
 }
 
 // What the endgame knowledge answers by itself, for the side to move, or NO_RECONOCIDO.
-int PuntosFinalReconocido() {
+static int PuntosFinalReconocido() {
     if (SoloReyes() || Material_Insuficiente() || FactorFinal() == FINAL_TABLAS) return VALOR_TABLAS;
     return EvaluarFinalesDificiles();
 }
 
 // The attack on the enemy king needs two pieces and a queen on the attacking side.
-int PuntosAtaque(RegistroBando& bando, int peso) {
+static int PuntosAtaque(RegistroBando& bando, int peso) {
     if (bando.Ataque_Numero <= 1) return 0;
     bando.Ataque_Valor = bando.Damas == 0 ? 0 : std::min(bando.Ataque_Valor, ATAQUE_MAX);
     return Porcentaje(KING_ATTACK_MULTI[bando.Ataque_Valor], peso);
 }
 
 template <int C>
-void SumarEscalados() {
+static void SumarEscalados() {
     RegistroBando& bando  = BandoDe<C>();
     const int      ataque = PuntosAtaque(bando, AJUSTE_ATT[C]);
     bando.Puntos_OP += Porcentaje(bando.Movilidad_OP, AJUSTE_MOB[C]) + Porcentaje(bando.Tropismo_OP, PESO_TROPISMO);
@@ -59,7 +58,7 @@ void SumarEscalados() {
     bando.Puntos_EG += ataque;
 }
 
-void SumarTurno() {
+static void SumarTurno() {
     if (TableroGlobal.Turno == BLANCO)
         Sumar<BLANCO>(BONUS_TURNO);
     else
@@ -67,7 +66,7 @@ void SumarTurno() {
 }
 
 // The accumulated terms of both sides as one score from White's view.
-int Reunir() {
+static int Reunir() {
     int puntos =
         Interpolate(Blancas.Puntos_OP - Negras.Puntos_OP, Blancas.Puntos_EG - Negras.Puntos_EG, TableroGlobal.Fase) +
         DesequilibrioPiezas();
@@ -77,14 +76,13 @@ int Reunir() {
     return std::clamp(puntos, -UMBRAL_MATE, UMBRAL_MATE);
 }
 
-}  // namespace
-
 int Interpolate(int puntos_op, int puntos_eg, int fase) {
     const int opening = std::min(fase, FASE_MAX);
     return Truncar(puntos_op * opening + puntos_eg * (FASE_MAX - fase), INVERSO_FASE_MAX);
 }
 
 int Evaluar() {
+    COMPROBAR_POSICION();
     LimpiarPuntuacion(0);
     Material_Imbalance();
     TableroGlobal.Fase = CalcularFase();

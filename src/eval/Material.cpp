@@ -4,8 +4,6 @@
 
 #include "eval/Par.h"
 
-namespace {
-
 constexpr Par BONUS_PAREJA_ALFILES         = {50, 60};
 constexpr int PENALIZACION_PAREJA_CABALLOS = 10;
 constexpr int PENALIZACION_PAREJA_TORRES   = 5;
@@ -34,7 +32,7 @@ constexpr int imbalance[INDICE_MAX + 1][INDICE_MAX + 1] = {
     {   0,   0,   0,   0,  60,  80,  80,  80,  80 } };
 // clang-format on
 
-int Ajuste(const RegistroBando& propio, const RegistroBando& rival) {
+static int Ajuste(const RegistroBando& propio, const RegistroBando& rival) {
     const int peones = std::min(propio.Peones, PEONES_TOPE);
 
     int ajuste = CABALLO_ADJ[peones] * propio.Caballos - TORRE_ADJ[peones] * propio.Torres;
@@ -45,7 +43,7 @@ int Ajuste(const RegistroBando& propio, const RegistroBando& rival) {
 }
 
 template <int C>
-void MaterialDe() {
+static void MaterialDe() {
     RegistroBando& propio = BandoDe<C>();
     const int      piezas = MATERIAL[PEON_B] * propio.Peones + MATERIAL[CABALLO_B] * propio.Caballos +
                        MATERIAL[ALFIL_B] * propio.Alfiles + MATERIAL[TORRE_B] * propio.Torres +
@@ -55,15 +53,13 @@ void MaterialDe() {
     if (propio.Alfiles > 1) Sumar<C>(BONUS_PAREJA_ALFILES);
 }
 
-int Menores(const RegistroBando& bando) {
+static int Menores(const RegistroBando& bando) {
     return bando.Caballos + bando.Alfiles;
 }
 
-int FaseDe(const RegistroBando& bando) {
+static int FaseDe(const RegistroBando& bando) {
     return Menores(bando) + 2 * bando.Torres + 4 * bando.Damas;
 }
-
-}  // namespace
 
 void Material_Imbalance() {
     MaterialDe<BLANCO>();

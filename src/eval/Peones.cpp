@@ -1,15 +1,12 @@
 // Pawn structure and passed pawns: what each property that Conjuntos knows, and some more, are worth.
-
 #include "eval/Conjuntos.h"
 #include "eval/Espejo.h"
 #include "eval/Par.h"
 #include "eval/Terminos.h"
 #include "eval/Tropismo.h"
 
-namespace {
-
 // One row of eight equal values a rank, rank 8 first.
-constexpr TablaEspejo PorFilas(const int (&filas)[8]) {
+static constexpr TablaEspejo PorFilas(const int (&filas)[8]) {
     int tablero[64] = {};
     for (int casilla = 0; casilla < 64; ++casilla) tablero[casilla] = filas[Fila(casilla)];
     return ConEspejo(tablero);
@@ -91,14 +88,14 @@ constexpr Conjunto ALA_DAMA = COLUMNA_A * 0x0F;  // files a to d
 constexpr Conjunto ALA_REY  = ALA_DAMA << 4;     // files e to h
 
 template <int C>
-constexpr Conjunto CENTRO_AVANZADO = Bit(En<C>("d5")) | Bit(En<C>("e5")) | Bit(En<C>("d6")) | Bit(En<C>("e6"));
+static constexpr Conjunto CENTRO_AVANZADO = Bit(En<C>("d5")) | Bit(En<C>("e5")) | Bit(En<C>("d6")) | Bit(En<C>("e6"));
 
 // Candidate: a pawn with a neighbour beside it and an enemy pawn two squares ahead, the usual lever, when no other
 // enemy pawn can join in: none ahead on the adjacent files and, the wing's majority being what counts, none
 // ahead on the file two away towards the near edge (the c and d files look at a and b, the e and f files at g and h).
 // Two squares ahead are on the board only below the seventh rank.
 template <int C>
-Conjunto BuscarCandidatos(Conjunto falange) {
+static Conjunto BuscarCandidatos(Conjunto falange) {
     const Conjunto rivales      = Conjuntos[RIVAL<C>].Peones;
     const Conjunto detras_rival = Detras<C>(rivales);
     const Conjunto palanca      = falange & ~Conjuntos[C].Abiertos & Retroceder<C>(Retroceder<C>(rivales));
@@ -107,14 +104,14 @@ Conjunto BuscarCandidatos(Conjunto falange) {
 }
 
 template <int C>
-bool SinPiezas() {
+static bool SinPiezas() {
     const RegistroBando& bando = BandoDe<C>();
     return (bando.Caballos | bando.Alfiles | bando.Torres | bando.Damas) == 0;
 }
 
 // Rule of the square: the enemy king cannot catch the pawn. The double step is not taken into account.
 template <int C>
-bool EsImparable(int casilla, int rey_rival) {
+static bool EsImparable(int casilla, int rey_rival) {
     const int pasos    = FILA_CORONACION - FilaRelativa<C>(casilla);
     const int promover = casilla + pasos * ADELANTE<C>;
     const int cedido   = TableroGlobal.Turno == RIVAL<C> ? 1 : 0;
@@ -122,7 +119,7 @@ bool EsImparable(int casilla, int rey_rival) {
 }
 
 template <int C>
-void EvaluarPasado(int casilla, bool rival_sin_piezas) {
+static void EvaluarPasado(int casilla, bool rival_sin_piezas) {
     const int  rey_rival = PosicionReyDe<RIVAL<C>>();
     const int  fila      = FilaRelativa<C>(casilla);
     const int  delante   = casilla + ADELANTE<C>;
@@ -136,7 +133,7 @@ void EvaluarPasado(int casilla, bool rival_sin_piezas) {
 }
 
 template <int C>
-void SumarTabla(Conjunto conjunto, const TablaEspejo& tabla_op, const TablaEspejo& tabla_eg) {
+static void SumarTabla(Conjunto conjunto, const TablaEspejo& tabla_op, const TablaEspejo& tabla_eg) {
     while (conjunto != 0) {
         const int casilla = SacarCasilla(conjunto) + MITAD<C>;
         Sumar<C>(tabla_op[casilla], tabla_eg[casilla]);
@@ -144,7 +141,7 @@ void SumarTabla(Conjunto conjunto, const TablaEspejo& tabla_op, const TablaEspej
 }
 
 template <int C>
-void EvaluarDebilidades() {
+static void EvaluarDebilidades() {
     const ConjuntosBando& propios = Conjuntos[C];
     Sumar<C>(PENALIZACION_PEON_DOUBLED, -Cuantas(propios.Doblados));
     SumarApertura<C>(PENALIZACION_PEON_ISOLATED.OP,
@@ -157,7 +154,7 @@ void EvaluarDebilidades() {
 }
 
 template <int C>
-void EvaluarPeones() {
+static void EvaluarPeones() {
     const ConjuntosBando& propios    = Conjuntos[C];
     const Conjunto        falange    = propios.Peones & Lados(propios.Peones);
     const Conjunto        defendidos = propios.Peones & propios.Ataque_Peones;
@@ -175,8 +172,6 @@ void EvaluarPeones() {
     SumarTabla<C>(propios.Peones, PST_P_OP, PST_P_EG);
     SumarApertura<C>(BONUS_PEON_CENTRAL_AVANZADO, Cuantas(propios.Peones & CENTRO_AVANZADO<C>));
 }
-
-}  // namespace
 
 void EvaluarPeonesB() {
     EvaluarPeones<BLANCO>();

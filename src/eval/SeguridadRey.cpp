@@ -8,8 +8,6 @@
 #include "eval/Pesos.h"
 #include "eval/Terminos.h"
 
-namespace {
-
 // The curve of KING_ATTACK_MULTI: a parabola with a dead start up to its joint, then three centipawns a step and a
 // fourth at every eighth.
 constexpr int ATAQUE_MUERTO  = 10;  // below, nothing threatens yet
@@ -17,7 +15,7 @@ constexpr int ATAQUE_EMPALME = 150;
 constexpr int VALOR_EMPALME  = 240;
 constexpr int VALOR_ATAQUE   = 500;  // the most that an attack is worth
 
-constexpr int ValorAtaque(int peso) {
+static constexpr int ValorAtaque(int peso) {
     if (peso < ATAQUE_MUERTO) return 0;
     constexpr int CUADRADO = ATAQUE_EMPALME * ATAQUE_EMPALME;
     if (peso <= ATAQUE_EMPALME) return (peso * peso * VALOR_EMPALME + CUADRADO / 2) / CUADRADO;
@@ -25,22 +23,24 @@ constexpr int ValorAtaque(int peso) {
     return std::min(VALOR_EMPALME + 3 * pasos + pasos / 8, VALOR_ATAQUE);
 }
 
-constexpr TablaAtaque CalcularAtaques() {
+static constexpr TablaAtaque CalcularAtaques() {
     TablaAtaque tabla{};
     for (int peso = 0; peso <= ATAQUE_MAX; ++peso) tabla.Valores[peso] = ValorAtaque(peso);
     return tabla;
 }
 
+constexpr TablaAtaque KING_ATTACK_MULTI = CalcularAtaques();
+
 // Relative rank of the pawn nearest to the back rank of C; that of the eighth for none.
 template <int C>
-int FilaMasAtrasada(Conjunto peones) {
+static int FilaMasAtrasada(Conjunto peones) {
     return C == BLANCO ? FilaRelativa<C>(Ultima(peones | Bit(0))) : FilaRelativa<C>(Primera(peones | Bit(63)));
 }
 
 // Shelter of a king of colour C on the given square: its own file and the two beside it. Hands each weight that counts
 // to recibir(weight, times).
 template <int C, class Recibir>
-void RecorrerRefugio(int rey, Recibir recibir) {
+static void RecorrerRefugio(int rey, Recibir recibir) {
     const ConjuntosBando& rival   = Conjuntos[RIVAL<C>];
     const Conjunto        delante = HastaElFinal<C>(FilaEntera<C>(FilaRelativa<C>(rey)));
     const Conjunto        propios = Conjuntos[C].Peones & delante;
@@ -61,7 +61,7 @@ void RecorrerRefugio(int rey, Recibir recibir) {
 }
 
 template <int C>
-int PuntosRefugio(int rey) {
+static int PuntosRefugio(int rey) {
     int puntos = 0;
     RecorrerRefugio<C>(rey, [&puntos](const int& peso, int veces) { puntos += peso * veces; });
     return puntos;
@@ -69,7 +69,7 @@ int PuntosRefugio(int rey) {
 
 // While the right to castle lasts, the pawns of that wing are worth keeping: a better shelter there counts half.
 template <int C>
-void EvaluarRefugio(int rey) {
+static void EvaluarRefugio(int rey) {
     const int  estado   = EnroqueDe<C>();
     const int  presente = PuntosRefugio<C>(rey);
     int        mejor    = presente;
@@ -90,7 +90,7 @@ void EvaluarRefugio(int rey) {
 }
 
 template <int C>
-void EvaluarEstadoEnroque(int rey) {
+static void EvaluarEstadoEnroque(int rey) {
     const int  estado    = std::clamp(EnroqueDe<C>(), 0, 5);
     const bool en_centro = Columna(rey) >= 2 && Columna(rey) <= 5;
     if (estado == SIN_ENROQUE && en_centro)
@@ -101,14 +101,14 @@ void EvaluarEstadoEnroque(int rey) {
 
 // Squares that the king of C guards and no other piece of his.
 template <int C>
-Conjunto SoloDelRey() {
+static Conjunto SoloDelRey() {
     return Conjuntos[C].Ataque_Rey & ~ConDosOMas(Conjuntos[C].Ataques);
 }
 
 // Squares on which a piece of C may land next to the king of its enemy: nothing guards them, or only the king does
 // and a second attacker stands by.
 template <int C>
-Conjunto CasillasSeguras() {
+static Conjunto CasillasSeguras() {
     const ConjuntosBando& propios = Conjuntos[C];
     const ConjuntosBando& rival   = Conjuntos[RIVAL<C>];
     const Conjunto        solas   = ~ConUnoOMas(rival.Ataques);
@@ -117,7 +117,7 @@ Conjunto CasillasSeguras() {
 
 // Pressure on the enemy king. Without a queen, or with one attacker alone, the weight counts for nothing anyway.
 template <int C>
-void EvaluarAsalto() {
+static void EvaluarAsalto() {
     const ConjuntosBando& propios = Conjuntos[C];
     const ConjuntosBando& rival   = Conjuntos[RIVAL<C>];
     if (propios.Damas == 0 || BandoDe<C>().Ataque_Numero < 2 || rival.Rey == 0) return;
@@ -135,17 +135,13 @@ void EvaluarAsalto() {
 }
 
 template <int C>
-void EvaluarRey() {
+static void EvaluarRey() {
     const int rey = PosicionReyDe<C>();
     Sumar<C>(PESOS.PST_K_OP[Relativa<C>(rey)], PESOS.PST_K_EG[Relativa<C>(rey)]);
     EvaluarRefugio<C>(rey);
     EvaluarEstadoEnroque<C>(rey);
     EvaluarAsalto<RIVAL<C>>();
 }
-
-}  // namespace
-
-constexpr TablaAtaque KING_ATTACK_MULTI = CalcularAtaques();
 
 void EvaluarReyes() {
     EvaluarRey<BLANCO>();

@@ -3,8 +3,8 @@
 
 constexpr int ATAQUE_MAX = 399;  // the highest weight that KING_ATTACK_MULTI tells from lower ones
 
-// Centipawns for a king attack by its weight Ataque_Valor, 0..ATAQUE_MAX: convex up to a weight of 150, nearly straight
-// beyond, and constant once it is worth a rook. Non-decreasing.
+// Centipawns for a king attack by its weight Ataque_Valor, 0..ATAQUE_MAX: convex at first, nearly straight later,
+// and constant once it is worth a rook. Non-decreasing.
 struct TablaAtaque {
     int Valores[ATAQUE_MAX + 1];
 

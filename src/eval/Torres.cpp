@@ -10,8 +10,6 @@
 #include "eval/Tropismo.h"
 #include "search/See.h"
 
-namespace {
-
 // clang-format off
 constexpr TablaEspejo PST_R_OP = ConEspejo({   // centipawns; the seventh rank has a bonus of its own
 //    a    b    c    d    e    f    g    h
@@ -43,7 +41,7 @@ constexpr int PESO_ZONA_REY     = 9;   // for each square of the king's zone; a 
 constexpr int PESO_JAQUE_ATAQUE = 24;  // a check that also attacks a piece worth taking
 
 // Opening values by squares reached, then the endgame values.
-constexpr std::array<int, 32> CalcularMovilidad() {
+static constexpr std::array<int, 32> CalcularMovilidad() {
     std::array<int, 32> tabla{};
     for (std::size_t m = 0; m <= MOVILIDAD_MAX; ++m) {
         tabla[m]                = 2 * static_cast<int>(m) - 14;
@@ -60,7 +58,7 @@ struct Vista {
     Conjunto Todas;
 };
 
-Vista Mirar(int torre) {
+static Vista Mirar(int torre) {
     const auto     casilla = static_cast<std::size_t>(torre);
     const Conjunto vertical =
         VistaEnDireccion<DIR_MENOS_8>(casilla, Ocupadas) | VistaEnDireccion<DIR_MAS_8>(casilla, Ocupadas);
@@ -71,7 +69,8 @@ Vista Mirar(int torre) {
 
 // Defended own pieces and attacked enemy ones, for the other terms.
 template <int C>
-void AnotarContactos(const Vista& vista, RegistroBando& propio) {
+static void AnotarContactos(const Vista& vista) {
+    RegistroBando& propio = BandoDe<C>();
     for (Conjunto propias = vista.Todas & Conjuntos[C].Todas; propias != 0;) ++propio.Defensa[SacarCasilla(propias)];
     for (Conjunto atacadas = vista.Todas & Conjuntos[RIVAL<C>].Todas; atacadas != 0;) {
         const int casilla = SacarCasilla(atacadas);
@@ -82,7 +81,7 @@ void AnotarContactos(const Vista& vista, RegistroBando& propio) {
 
 // Is there a piece that the rook, were it its turn, would win or exchange? Each capture is tried on the board.
 template <int C>
-bool GanaAlgo(int torre, Conjunto presas) {
+static bool GanaAlgo(int torre, Conjunto presas) {
     const int turno = TableroGlobal.Turno;
     bool      gana  = false;
     while (presas != 0 && !gana) {
@@ -96,36 +95,42 @@ bool GanaAlgo(int torre, Conjunto presas) {
     return gana;
 }
 
-// A check that attacks a second piece, with an own queen to follow it up. A move made with Ply at the last row of the
-// undo stack could not be taken back, so there nothing is tried.
+// A check that attacks a second piece worth taking, with an own queen to follow it up. A move made with Ply at the last
+// row of the undo stack could not be taken back, so there nothing is tried.
 template <int C>
-bool JaqueConAtaque(const Vista& vista, const RegistroBando& propio) {
+static void EvaluarTorreExtra(const Vista& vista) {
     const ConjuntosBando& rivales = Conjuntos[RIVAL<C>];
     const Conjunto        presas  = vista.Todas & rivales.Todas & ~rivales.Rey;
-    return (vista.Todas & rivales.Rey) != 0 && presas != 0 && propio.Damas != 0 && TableroGlobal.Ply < PLIES_MAX - 1 &&
-           GanaAlgo<C>(vista.Torre, presas);
+    if ((vista.Todas & rivales.Rey) == 0 || presas == 0 || BandoDe<C>().Damas == 0) return;
+    if (TableroGlobal.Ply >= PLIES_MAX - 1) return;
+    if (GanaAlgo<C>(vista.Torre, presas)) SumarAtaque<C>(PESO_JAQUE_ATAQUE, 1);
+}
+static void EvaluarTorreBExtra(const Vista& vista) {
+    EvaluarTorreExtra<BLANCO>(vista);
+}
+static void EvaluarTorreNExtra(const Vista& vista) {
+    EvaluarTorreExtra<NEGRO>(vista);
 }
 
 // Attacked squares beside the enemy king and the king itself, which counts twice.
 template <int C>
-void AnotarAtaqueTorre(const Vista& vista, RegistroBando& propio) {
+static void AnotarAtaqueTorre(const Vista& vista) {
     const int      rey    = PosicionReyDe<RIVAL<C>>();
     const Conjunto zona   = ATAQUES_REY[static_cast<std::size_t>(rey)] | (Bit(rey) & Ocupadas);
     const int      numero = Cuantas(vista.Todas & zona);
     SumarAtaque<C>(PESO_ZONA_REY, numero + Cuantas(vista.Todas & Conjuntos[RIVAL<C>].Rey));
-    propio.Ataque_Numero += numero != 0 ? 1 : 0;
-    if (JaqueConAtaque<C>(vista, propio)) SumarAtaque<C>(PESO_JAQUE_ATAQUE, 1);
+    BandoDe<C>().Ataque_Numero += numero != 0 ? 1 : 0;
 }
 
 template <int C>
-void EvaluarPeonALaVista(int peon) {
+static void EvaluarPeonALaVista(int peon) {
     const bool defendido = Contiene(Conjuntos[RIVAL<C>].Ataque_Peones, peon);
     Sumar<C>(defendido ? BONUS_TORRE_SEMI_DEFENDIDA : BONUS_TORRE_SEMI_ABIERTA);
 }
 
 // Open and half-open files. On a half-open one the first enemy pawn in each direction counts, whatever stands between.
 template <int C>
-void EvaluarColumna(int torre) {
+static void EvaluarColumna(int torre) {
     const auto     casilla = static_cast<std::size_t>(torre);
     const Conjunto columna = ColumnaEntera(Columna(torre));
     const Conjunto rivales = Conjuntos[RIVAL<C>].Peones & columna;
@@ -143,7 +148,7 @@ void EvaluarColumna(int torre) {
 
 // A rook that has strayed in front of an enemy rook's pawn and cannot leave along its rank.
 template <int C>
-void EvaluarAtrapada(int torre) {
+static void EvaluarAtrapada(int torre) {
     int carcelero = VACIO;
     if (torre == En<C>("h2") && TableroGlobal.Casillas[En<C>("h3")] == PEON<RIVAL<C>>)
         carcelero = TableroGlobal.Casillas[En<C>("g2")];
@@ -156,16 +161,21 @@ void EvaluarAtrapada(int torre) {
 // On the seventh rank the rook cuts the enemy king off, or waits for the pawns that will promote behind it: the
 // pawns that count are those on the enemy's own seventh rank.
 template <int C>
-bool DominaSeptima(int torre, const RegistroBando& rival) {
-    return FilaRelativa<C>(torre) == 6 && (FilaRelativa<C>(PosicionReyDe<RIVAL<C>>()) == 7 || rival.Peones_Septima > 0);
+static bool DominaSeptima(int torre) {
+    return FilaRelativa<C>(torre) == 6 &&
+           (FilaRelativa<C>(PosicionReyDe<RIVAL<C>>()) == 7 || BandoDe<RIVAL<C>>().Peones_Septima > 0);
 }
 
 // Returns whether the rook counts for the pair on the seventh rank.
 template <int C>
-bool EvaluarUnaTorre(int torre, RegistroBando& propio, const RegistroBando& rival) {
+static bool EvaluarTorre(int torre) {
     const Vista vista = Mirar(torre);
-    AnotarContactos<C>(vista, propio);
-    AnotarAtaqueTorre<C>(vista, propio);
+    AnotarContactos<C>(vista);
+    AnotarAtaqueTorre<C>(vista);
+    if constexpr (C == BLANCO)
+        EvaluarTorreBExtra(vista);
+    else
+        EvaluarTorreNExtra(vista);
 
     const auto movilidad = static_cast<std::size_t>(Cuantas(vista.Todas & ~Conjuntos[C].Peones));
     SumarMovilidad<C>(BONUS_TORRE_MOVILIDAD[movilidad], BONUS_TORRE_MOVILIDAD[MOVILIDAD_EG + movilidad]);
@@ -175,24 +185,22 @@ bool EvaluarUnaTorre(int torre, RegistroBando& propio, const RegistroBando& riva
     EvaluarColumna<C>(torre);
     EvaluarAtrapada<C>(torre);
 
-    const bool septima = DominaSeptima<C>(torre, rival);
+    const bool septima = DominaSeptima<C>(torre);
     if (septima) Sumar<C>(BONUS_TORRE_SEPTIMA);
     return septima;
 }
 
 template <int C>
-void EvaluarTorres(RegistroBando& propio, const RegistroBando& rival) {
+static void EvaluarTorres() {
     int en_septima = 0;
     for (Conjunto torres = Conjuntos[C].Torres; torres != 0;)
-        if (EvaluarUnaTorre<C>(SacarCasilla(torres), propio, rival)) ++en_septima;
+        if (EvaluarTorre<C>(SacarCasillaEnOrden<C>(torres))) ++en_septima;
     if (en_septima >= 2) Sumar<C>(BONUS_DOSTORRE_SEPTIMA);
 }
 
-}  // namespace
-
 void EvaluarTorreB() {
-    EvaluarTorres<BLANCO>(Blancas, Negras);
+    EvaluarTorres<BLANCO>();
 }
 void EvaluarTorreN() {
-    EvaluarTorres<NEGRO>(Negras, Blancas);
+    EvaluarTorres<NEGRO>();
 }

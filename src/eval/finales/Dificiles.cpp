@@ -7,21 +7,19 @@
 #include "eval/Espejo.h"
 #include "eval/finales/Reconocidos.h"
 
-namespace {
-
 using Evaluador = int (*)(const RegistroFinal&);
 
 // Pieces without pawns: the lead that wins against defenders, in centipawns; a rook or about as much.
 constexpr int VENTAJA_DECISIVA = 450;
 
 template <int C>
-std::uint64_t ClaveDe() {
+static std::uint64_t ClaveDe() {
     const RegistroBando& bando = BandoDe<C>();
     return ClaveMaterial(bando.Peones, bando.Caballos, bando.Alfiles, bando.Torres, bando.Damas);
 }
 
 template <int C, int FUERTE>
-void AgregarPiezas(RegistroFinal& pos) {
+static void AgregarPiezas(RegistroFinal& pos) {
     constexpr int RECODIFICA = (C == FUERTE ? 0 : DESFASE_NEGRO) - CODIGO_BASE<C>;
     Conjunto      propias    = CasillasDe<C>();
     while (propias != 0) {
@@ -33,14 +31,14 @@ void AgregarPiezas(RegistroFinal& pos) {
 }
 
 template <int FUERTE>
-void Orientar(RegistroFinal& pos) {
+static void Orientar(RegistroFinal& pos) {
     pos.MueveFuerte = TableroGlobal.Turno == FUERTE;
     AgregarPiezas<FUERTE, FUERTE>(pos);
     AgregarPiezas<RIVAL<FUERTE>, FUERTE>(pos);
 }
 
 // Fills the record from TableroGlobal with the given colour as the stronger side.
-void OrientarFinal(int fuerte, RegistroFinal& pos) {
+static void OrientarFinal(int fuerte, RegistroFinal& pos) {
     pos = {};
     if (fuerte == BLANCO)
         Orientar<BLANCO>(pos);
@@ -49,12 +47,12 @@ void OrientarFinal(int fuerte, RegistroFinal& pos) {
 }
 
 // Material decides alone that nothing but the advance of the mate is left to judge.
-int EvaluarSinPeones(const RegistroFinal& pos) {
+static int EvaluarSinPeones(const RegistroFinal& pos) {
     return ValorMaterial(pos, PEON_B) - ValorMaterial(pos, PEON_N) < VENTAJA_DECISIVA ? NO_RECONOCIDO
                                                                                       : EvaluarVentajaSinPeones(pos);
 }
 
-Evaluador ElegirEvaluador(std::uint64_t fuerte, std::uint64_t debil) {
+static Evaluador ElegirEvaluador(std::uint64_t fuerte, std::uint64_t debil) {
     if (debil == 0) return EvaluarReySolo;
     switch (Enfrentadas(fuerte, debil)) {
         case Enfrentadas("R", "P"):
@@ -73,7 +71,7 @@ Evaluador ElegirEvaluador(std::uint64_t fuerte, std::uint64_t debil) {
     }
 }
 
-int Consultar(Evaluador evaluador, int fuerte) {
+static int Consultar(Evaluador evaluador, int fuerte) {
     if (evaluador == nullptr) return NO_RECONOCIDO;
     RegistroFinal pos;
     OrientarFinal(fuerte, pos);
@@ -81,8 +79,6 @@ int Consultar(Evaluador evaluador, int fuerte) {
     if (puntos == NO_RECONOCIDO) return NO_RECONOCIDO;
     return pos.MueveFuerte ? puntos : -puntos;
 }
-
-}  // namespace
 
 int EvaluarFinalesDificiles() {
     const std::uint64_t blancas = ClaveDe<BLANCO>();

@@ -6,25 +6,23 @@
 #include "eval/Pesos.h"
 #include "eval/finales/Evaluadores.h"
 
-namespace {
-
 constexpr int DIFERENCIA_MAX = 2;  // of pawns, with opposite-coloured bishops
 
 // The files of one colour's pawns are all the given rook file.
-bool PeonesEnColumna(const RegistroFinal& pos, int columna) {
+static bool PeonesEnColumna(const RegistroFinal& pos, int columna) {
     for (int i = 0; i < pos.Numero[PEON_B]; ++i)
         if (Columna(pos.Casillas[PEON_B][i]) != columna) return false;
     return pos.Numero[PEON_B] > 0;
 }
 
-bool AlfilesFueraDe(const RegistroFinal& pos, int casilla) {
+static bool AlfilesFueraDe(const RegistroFinal& pos, int casilla) {
     for (int i = 0; i < pos.Numero[ALFIL_B]; ++i)
         if (MismoColor(pos.Casillas[ALFIL_B][i], casilla)) return false;
     return true;
 }
 
 // No pawn of the other side can stop this one or take it on its way.
-bool EsPasado(const RegistroFinal& pos, int codigo, int peon) {
+static bool EsPasado(const RegistroFinal& pos, int codigo, int peon) {
     const int rival   = codigo == PEON_B ? PEON_N : PEON_B;
     const int sentido = codigo == PEON_B ? -1 : 1;
     for (int i = 0; i < pos.Numero[rival]; ++i) {
@@ -35,7 +33,7 @@ bool EsPasado(const RegistroFinal& pos, int codigo, int peon) {
 }
 
 // A single pawn one step from its corner, with a knight that can guard it but does not cover the corner.
-bool EsCaballoAtadoAlPeon(const RegistroFinal& pos, int rincon) {
+static bool EsCaballoAtadoAlPeon(const RegistroFinal& pos, int rincon) {
     const Saltos& saltos = SALTOS_CABALLO[static_cast<std::size_t>(rincon)];
     for (int i = 0; i < saltos.Numero; ++i)
         if (saltos.Casillas[i] == Una(pos, CABALLO_B)) return false;
@@ -44,7 +42,7 @@ bool EsCaballoAtadoAlPeon(const RegistroFinal& pos, int rincon) {
 }
 
 // Worth of one side's pawns; a passed one counts half when the enemy bishop covers the square before it.
-int PeonesConAlfiles(const RegistroFinal& pos, int codigo, int valorPeon) {
+static int PeonesConAlfiles(const RegistroFinal& pos, int codigo, int valorPeon) {
     const bool fuerte     = codigo == PEON_B;
     const int  alfilRival = Una(pos, fuerte ? ALFIL_N : ALFIL_B);
     int        suma       = 0;
@@ -58,8 +56,6 @@ int PeonesConAlfiles(const RegistroFinal& pos, int codigo, int valorPeon) {
     }
     return suma;
 }
-
-}  // namespace
 
 bool EsFortalezaPeonTorre(const RegistroFinal& pos) {
     const int peon   = Una(pos, PEON_B);

@@ -6,8 +6,6 @@
 #include "eval/finales/Evaluadores.h"
 #include "eval/finales/Kpk.h"
 
-namespace {
-
 // Centipawns a step, in the way a win is made: king to the edge, kings together, pawns forward.
 constexpr int PESO_BORDE  = 10;
 constexpr int PESO_REYES  = 6;
@@ -41,7 +39,7 @@ struct RecuentoFuerte {
     bool AlfilesDistintos;  // bishops on both colours
 };
 
-RecuentoFuerte ContarFuerzas(const RegistroFinal& pos) {
+static RecuentoFuerte ContarFuerzas(const RegistroFinal& pos) {
     RecuentoFuerte fuerzas{pos.Numero[PEON_B], pos.Numero[CABALLO_B], pos.Numero[ALFIL_B],
                            pos.Numero[TORRE_B] + pos.Numero[DAMA_B], false};
     for (int i = 1; i < fuerzas.Alfiles; ++i)
@@ -49,28 +47,28 @@ RecuentoFuerte ContarFuerzas(const RegistroFinal& pos) {
     return fuerzas;
 }
 
-bool PuedenDarMate(const RecuentoFuerte& fuerzas) {
+static bool PuedenDarMate(const RecuentoFuerte& fuerzas) {
     return fuerzas.Pesadas > 0 || fuerzas.AlfilesDistintos || (fuerzas.Alfiles > 0 && fuerzas.Caballos > 0) ||
            fuerzas.Caballos > 2;
 }
 
-int Acoso(const RegistroFinal& pos) {
+static int Acoso(const RegistroFinal& pos) {
     const int debil = Una(pos, REY_N);
     return PESO_BORDE * LejosDelCentro(debil) + PESO_REYES * (DISTANCIA_MAX - DistanciaRey(Una(pos, REY_B), debil));
 }
 
-int AvancePeones(const RegistroFinal& pos) {
+static int AvancePeones(const RegistroFinal& pos) {
     int suma = 0;
     for (int i = 0; i < pos.Numero[PEON_B]; ++i)
         suma += PESO_AVANCE * (DISTANCIA_MAX - PasosHastaCoronar(pos.Casillas[PEON_B][i]));
     return suma;
 }
 
-int PuntosVictoria(const RegistroFinal& pos, int progreso) {
+static int PuntosVictoria(const RegistroFinal& pos, int progreso) {
     return std::min(VICTORIA + ValorMaterial(pos, PEON_B) + AvancePeones(pos) + progreso, VICTORIA_MAXIMA);
 }
 
-int ProgresoCaballoAlfil(const RegistroFinal& pos) {
+static int ProgresoCaballoAlfil(const RegistroFinal& pos) {
     const int rey    = Una(pos, REY_B);
     const int debil  = Una(pos, REY_N);
     const int espejo = ColorCasilla(Una(pos, ALFIL_B)) == ColorCasilla(0) ? 0 : 7;
@@ -80,13 +78,11 @@ int ProgresoCaballoAlfil(const RegistroFinal& pos) {
 }
 
 // Some pawn would win if the others and the pieces were not there.
-bool GanaAlgunPeon(const RegistroFinal& pos) {
+static bool GanaAlgunPeon(const RegistroFinal& pos) {
     for (int i = 0; i < pos.Numero[PEON_B]; ++i)
         if (KpkGana(Una(pos, REY_B), pos.Casillas[PEON_B][i], Una(pos, REY_N), pos.MueveFuerte) == 1) return true;
     return false;
 }
-
-}  // namespace
 
 int EvaluarReySolo(const RegistroFinal& pos) {
     const RecuentoFuerte fuerzas = ContarFuerzas(pos);

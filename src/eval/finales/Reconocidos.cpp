@@ -2,8 +2,6 @@
 
 #include "eval/Pesos.h"
 
-namespace {
-
 constexpr int TABLAS_MUERTAS   = 0;
 constexpr int PIEZAS_CON_REGLA = 5;  // no rule names more pieces, or more pawns, than these on the board
 constexpr int PEONES_CON_REGLA = 2;
@@ -12,7 +10,7 @@ constexpr int VENTAJA_MENOR = 3;  // pawns that a minor piece is worth
 
 // What the material of two sides given in this order deserves, or no weight. After the practice and statistics of
 // pawnless endings (Fine; Nunn): what is drawn with best play, yet holds chances, keeps a part of its score.
-const int* FactorOrdenado(std::uint64_t enfrentadas) {
+static const int* FactorOrdenado(std::uint64_t enfrentadas) {
     // clang-format off
     switch (enfrentadas) {
         // Nobody can force a mate.
@@ -67,11 +65,9 @@ const int* FactorOrdenado(std::uint64_t enfrentadas) {
 }
 
 // A side that leads by at most a minor piece and has no pawn left hardly ever wins.
-bool SoloUnMenorDeMas(int peones, int valor, int valorRival) {
+static bool SoloUnMenorDeMas(int peones, int valor, int valorRival) {
     return peones == 0 && valor > valorRival && valor - valorRival <= VENTAJA_MENOR;
 }
-
-}  // namespace
 
 int FinalesReconocidos(int pb, int cb, int ab, int tb, int db, int pn, int cn, int an, int tn, int dn) {
     if (pb + pn > PEONES_CON_REGLA || cb + ab + tb + db + cn + an + tn + dn > PIEZAS_CON_REGLA) return SIN_CAMBIO;

@@ -5,98 +5,8 @@
 #include "eval/Pesos.h"
 #include "eval/finales/Evaluadores.h"
 
-namespace {
-
 constexpr int VENTAJA_MAX      = RegistroPesos::VENTAJAS - 1;
 constexpr int PASOS_PEON_ATRAS = 5;  // a pawn that has this far to go, or more, loses
-
-// Ranks as the stronger side counts them.
-constexpr int PRIMERA = 0;
-constexpr int TERCERA = 2;
-constexpr int QUINTA  = 4;
-constexpr int SEXTA   = 5;
-constexpr int SEPTIMA = 6;
-constexpr int OCTAVA  = 7;
-
-int FilaFuerte(int casilla) {
-    return FilaRelativa<BLANCO>(casilla);
-}
-
-// Squares of rook and pawn against rook with the pawn on the left half.
-struct TorrePeon {
-    int  Rey, Torre, Peon, ReyDebil, TorreDebil, Meta;
-    bool MueveFuerte;
-};
-
-TorrePeon LeerTorrePeon(const RegistroFinal& pos) {
-    const int espejo = Columna(Una(pos, PEON_B)) < 4 ? 0 : 7;
-    const int peon   = Una(pos, PEON_B) ^ espejo;
-    return {Una(pos, REY_B) ^ espejo,   Una(pos, TORRE_B) ^ espejo, peon,           Una(pos, REY_N) ^ espejo,
-            Una(pos, TORRE_N) ^ espejo, Coronacion(peon),           pos.MueveFuerte};
-}
-
-// The rook on the sixth rank keeps the king out until the pawn steps there, then checks from behind.
-bool EsTerceraFila(const TorrePeon& t) {
-    return DistanciaRey(t.ReyDebil, t.Meta) <= 1 && FilaFuerte(t.Peon) <= QUINTA && FilaFuerte(t.Rey) <= QUINTA &&
-           FilaFuerte(t.TorreDebil) == SEXTA;
-}
-
-bool EsJaquesPorDetras(const TorrePeon& t) {
-    return DistanciaRey(t.ReyDebil, t.Meta) <= 1 && FilaFuerte(t.Peon) == SEXTA &&
-           FilaFuerte(t.TorreDebil) == PRIMERA && (!t.MueveFuerte || DistanciaRey(t.Rey, t.Peon) > 1);
-}
-
-// A rook on the back rank is enough against a rook or knight pawn: the other side has no room to go round.
-bool EsUltimaFila(const TorrePeon& t) {
-    return Columna(t.Peon) <= 1 && t.ReyDebil == t.Meta && FilaFuerte(t.TorreDebil) == OCTAVA &&
-           FilaFuerte(t.Peon) <= SEXTA;
-}
-
-// A rook pawn with its rook before it, attacked from the side.
-bool EsAtaqueLateral(const TorrePeon& t) {
-    return Columna(t.Peon) == 0 && Columna(t.Torre) == 0 && Fila(t.Torre) < Fila(t.Peon) &&
-           FilaFuerte(t.Peon) <= SEXTA && FilaFuerte(t.TorreDebil) == FilaFuerte(t.Peon) &&
-           Columna(t.TorreDebil) >= 4 && Columna(t.ReyDebil) >= 6 && FilaFuerte(t.ReyDebil) == SEPTIMA &&
-           Columna(t.Rey) > 1;
-}
-
-// The same with the pawn on the seventh: the rook before it can never leave.
-bool EsTorreAtadaAlPeon(const TorrePeon& t) {
-    return Columna(t.Peon) == 0 && t.Torre == t.Meta && FilaFuerte(t.Peon) == SEPTIMA && Columna(t.TorreDebil) == 0 &&
-           FilaFuerte(t.TorreDebil) <= TERCERA && Columna(t.ReyDebil) >= 6 && FilaFuerte(t.ReyDebil) == SEPTIMA;
-}
-
-// The king before its pawn leaves by a bridge, because the rook on the next file keeps the other king away.
-bool EsLucena(const TorrePeon& t) {
-    const int lado = Columna(t.ReyDebil) > Columna(t.Peon) ? 1 : -1;
-    return FilaFuerte(t.Peon) == SEPTIMA && Columna(t.Peon) != 0 && t.Rey == t.Meta &&
-           (Columna(t.ReyDebil) - Columna(t.Peon)) * lado >= 2 && Columna(t.Torre) == Columna(t.Peon) + lado;
-}
-
-constexpr int SEPTIMA_DEBIL   = 6;  // of the weaker side, as Fila() counts
-constexpr int COLUMNA_ALFIL_C = 2;
-
-// The stronger king reaches the mating net around a1 or c1 in time. The pawn is on the left half of the board; all
-// squares are given as Fila() and Columna() count. On the bishop file the defender's long side needs a wider zone,
-// because there its king can leave the stalemate corner.
-bool ReyALaVista(int rey, int peon, int reyDebil) {
-    if (Columna(peon) == 0) return Columna(rey) <= 3 && Fila(rey) >= 5;
-    const bool ladoCorto = Columna(reyDebil) < COLUMNA_ALFIL_C;
-    return ladoCorto ? Columna(rey) <= 4 && Fila(rey) >= 5 : Columna(rey) <= 5 && Fila(rey) >= 4;
-}
-
-bool EsTablas(const RegistroFinal& pos) {
-    const int espejo = Columna(Una(pos, PEON_N)) < 4 ? 0 : 7;
-    const int peon   = Una(pos, PEON_N) ^ espejo;
-    const int debil  = Una(pos, REY_N) ^ espejo;
-    const int meta   = peon + 8;
-    if (Fila(peon) != SEPTIMA_DEBIL || (Columna(peon) != 0 && Columna(peon) != COLUMNA_ALFIL_C)) return false;
-    // In front of its own rook pawn the king may be shut in; a move later it stands beside it or is lost.
-    if (DistanciaRey(debil, meta) > 1 || (Columna(peon) == 0 && debil == meta)) return false;
-    return !ReyALaVista(Una(pos, REY_B) ^ espejo, peon, debil);
-}
-
-}  // namespace
 
 int EvaluarTorreContraPeon(const RegistroFinal& pos) {
     const int rey   = Una(pos, REY_B);
@@ -115,6 +25,69 @@ int EvaluarTorreContraPeon(const RegistroFinal& pos) {
     return PESOS.TORRE_PEON_CARRERA[indice] + PESOS.TORRE_PEON_CERCANIA * (7 - DistanciaRey(rey, peon));
 }
 
+// Ranks as the stronger side counts them.
+constexpr int PRIMERA = 0;
+constexpr int TERCERA = 2;
+constexpr int QUINTA  = 4;
+constexpr int SEXTA   = 5;
+constexpr int SEPTIMA = 6;
+constexpr int OCTAVA  = 7;
+
+static int FilaFuerte(int casilla) {
+    return FilaRelativa<BLANCO>(casilla);
+}
+
+// Squares of rook and pawn against rook with the pawn on the left half.
+struct TorrePeon {
+    int  Rey, Torre, Peon, ReyDebil, TorreDebil, Meta;
+    bool MueveFuerte;
+};
+
+static TorrePeon LeerTorrePeon(const RegistroFinal& pos) {
+    const int espejo = Columna(Una(pos, PEON_B)) < 4 ? 0 : 7;
+    const int peon   = Una(pos, PEON_B) ^ espejo;
+    return {Una(pos, REY_B) ^ espejo,   Una(pos, TORRE_B) ^ espejo, peon,           Una(pos, REY_N) ^ espejo,
+            Una(pos, TORRE_N) ^ espejo, Coronacion(peon),           pos.MueveFuerte};
+}
+
+// The rook on the sixth rank keeps the king out until the pawn steps there, then checks from behind.
+static bool EsTerceraFila(const TorrePeon& t) {
+    return DistanciaRey(t.ReyDebil, t.Meta) <= 1 && FilaFuerte(t.Peon) <= QUINTA && FilaFuerte(t.Rey) <= QUINTA &&
+           FilaFuerte(t.TorreDebil) == SEXTA;
+}
+
+static bool EsJaquesPorDetras(const TorrePeon& t) {
+    return DistanciaRey(t.ReyDebil, t.Meta) <= 1 && FilaFuerte(t.Peon) == SEXTA &&
+           FilaFuerte(t.TorreDebil) == PRIMERA && (!t.MueveFuerte || DistanciaRey(t.Rey, t.Peon) > 1);
+}
+
+// A rook on the back rank is enough against a rook or knight pawn: the other side has no room to go round.
+static bool EsUltimaFila(const TorrePeon& t) {
+    return Columna(t.Peon) <= 1 && t.ReyDebil == t.Meta && FilaFuerte(t.TorreDebil) == OCTAVA &&
+           FilaFuerte(t.Peon) <= SEXTA;
+}
+
+// A rook pawn with its rook before it, attacked from the side.
+static bool EsAtaqueLateral(const TorrePeon& t) {
+    return Columna(t.Peon) == 0 && Columna(t.Torre) == 0 && Fila(t.Torre) < Fila(t.Peon) &&
+           FilaFuerte(t.Peon) <= SEXTA && FilaFuerte(t.TorreDebil) == FilaFuerte(t.Peon) &&
+           Columna(t.TorreDebil) >= 4 && Columna(t.ReyDebil) >= 6 && FilaFuerte(t.ReyDebil) == SEPTIMA &&
+           Columna(t.Rey) > 1;
+}
+
+// The same with the pawn on the seventh: the rook before it can never leave.
+static bool EsTorreAtadaAlPeon(const TorrePeon& t) {
+    return Columna(t.Peon) == 0 && t.Torre == t.Meta && FilaFuerte(t.Peon) == SEPTIMA && Columna(t.TorreDebil) == 0 &&
+           FilaFuerte(t.TorreDebil) <= TERCERA && Columna(t.ReyDebil) >= 6 && FilaFuerte(t.ReyDebil) == SEPTIMA;
+}
+
+// The king before its pawn leaves by a bridge, because the rook on the next file keeps the other king away.
+static bool EsLucena(const TorrePeon& t) {
+    const int lado = Columna(t.ReyDebil) > Columna(t.Peon) ? 1 : -1;
+    return FilaFuerte(t.Peon) == SEPTIMA && Columna(t.Peon) != 0 && t.Rey == t.Meta &&
+           (Columna(t.ReyDebil) - Columna(t.Peon)) * lado >= 2 && Columna(t.Torre) == Columna(t.Peon) + lado;
+}
+
 int EvaluarTorrePeonContraTorre(const RegistroFinal& pos) {
     const TorrePeon t = LeerTorrePeon(pos);
     if (EsTerceraFila(t) || EsJaquesPorDetras(t) || EsUltimaFila(t) || EsAtaqueLateral(t) || EsTorreAtadaAlPeon(t))
@@ -122,7 +95,31 @@ int EvaluarTorrePeonContraTorre(const RegistroFinal& pos) {
     return EsLucena(t) ? PESOS.TORRE_PEON_TORRE_LUCENA : NO_RECONOCIDO;
 }
 
+constexpr int SEPTIMA_DEBIL   = 6;  // of the weaker side, as Fila() counts
+constexpr int COLUMNA_ALFIL_C = 2;
+
+// The stronger king reaches the mating net around a1 or c1 in time. The pawn is on the left half of the board; all
+// squares are given as Fila() and Columna() count. On the bishop file the defender's long side needs a wider zone,
+// because there its king can leave the stalemate corner.
+static bool ReyALaVista(int rey, int peon, int reyDebil) {
+    if (Columna(peon) == 0) return Columna(rey) <= 3 && Fila(rey) >= 5;
+    const bool lado_corto = Columna(reyDebil) < COLUMNA_ALFIL_C;
+    return lado_corto ? Columna(rey) <= 4 && Fila(rey) >= 5 : Columna(rey) <= 5 && Fila(rey) >= 4;
+}
+
+// The weaker king beside its rook or bishop pawn on the seventh: taking the pawn leaves it no move.
+static bool EsAhogado(const RegistroFinal& pos) {
+    const int espejo = Columna(Una(pos, PEON_N)) < 4 ? 0 : 7;
+    const int peon   = Una(pos, PEON_N) ^ espejo;
+    const int debil  = Una(pos, REY_N) ^ espejo;
+    const int meta   = peon + 8;
+    if (Fila(peon) != SEPTIMA_DEBIL || (Columna(peon) != 0 && Columna(peon) != COLUMNA_ALFIL_C)) return false;
+    // In front of its own rook pawn the king may be shut in; a move later it stands beside it or is lost.
+    if (DistanciaRey(debil, meta) > 1 || (Columna(peon) == 0 && debil == meta)) return false;
+    return !ReyALaVista(Una(pos, REY_B) ^ espejo, peon, debil);
+}
+
 int EvaluarDamaContraPeon(const RegistroFinal& pos) {
     const int cercania = PESOS.DAMA_PEON_CERCANIA * (7 - DistanciaRey(Una(pos, REY_B), Una(pos, PEON_N)));
-    return EsTablas(pos) ? PESOS.DAMA_PEON_TABLAS : PESOS.DAMA_PEON_GANADA + cercania;
+    return EsAhogado(pos) ? PESOS.DAMA_PEON_TABLAS : PESOS.DAMA_PEON_GANADA + cercania;
 }
