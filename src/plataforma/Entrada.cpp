@@ -3,7 +3,7 @@
 #include <cassert>
 #include <cstring>
 
-#include "plataforma/EntradaSistema.h"
+#include "plataforma/EntradaSalida.h"
 
 static char Bufer[LINEA_MAX];
 static int  Inicio       = 0;  // the unread bytes are Bufer[Inicio] .. Bufer[Fin - 1]

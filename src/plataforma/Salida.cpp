@@ -4,7 +4,7 @@
 #include <cstdarg>
 #include <cstdio>
 
-#include "plataforma/SalidaSistema.h"
+#include "plataforma/EntradaSalida.h"
 
 static int Perdida = 0;
 

@@ -9,7 +9,7 @@
 #include "plataforma/Reloj.h"
 #include "plataforma/Salida.h"
 #include "search/Buscar.h"
-#include "uci/UciNewGame.h"
+#include "uci/Arranque.h"
 
 // Arguments of "position". Changing one changes the signature of every build.
 static const char* const POSICIONES[] = {

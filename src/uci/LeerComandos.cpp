@@ -12,9 +12,9 @@
 #include "plataforma/Salida.h"
 #include "search/Transposicion.h"
 #include "tablebases/Gaviota.h"
+#include "uci/Arranque.h"
 #include "uci/Go.h"
 #include "uci/Opciones.h"
-#include "uci/UciNewGame.h"
 
 // --- Commands; each takes the text behind its word ---
 

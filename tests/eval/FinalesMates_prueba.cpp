@@ -13,7 +13,6 @@
 #include "plataforma/Reloj.h"
 #include "search/Buscar.h"
 #include "uci/Arranque.h"
-#include "uci/UciNewGame.h"
 
 // The engine mates a bare king against itself, in games that the fifty-move rule would otherwise end.
 namespace {

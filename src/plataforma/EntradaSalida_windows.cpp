@@ -1,8 +1,11 @@
 #include <windows.h>
 
-#include "plataforma/EntradaSistema.h"
+#include <io.h>
 
-constexpr DWORD EVENTOS_MAX = 512;  // console events that one test looks at
+#include "plataforma/EntradaSalida.h"
+
+constexpr DWORD EVENTOS_MAX     = 512;  // console events that one test looks at
+constexpr int   SALIDA_ESTANDAR = 1;    // descriptor
 
 static int    init = 0;  // 1 once the input has been examined, on the first poll
 static HANDLE inh  = nullptr;
@@ -47,4 +50,16 @@ int HayBytes() {
     DWORD esperan = 0;
     if (PeekNamedPipe(inh, nullptr, 0, nullptr, &esperan, nullptr) == 0) return 1;  // a file, or a closed pipe
     return esperan != 0 ? 1 : 0;
+}
+
+// Through the descriptor of the C library, which ends lines as this system does. It blocks, so a call that takes
+// nothing has failed.
+int EscribirBytes(const char* bytes, int numero) {
+    while (numero > 0) {
+        const int escritos = _write(SALIDA_ESTANDAR, bytes, static_cast<unsigned>(numero));
+        if (escritos <= 0) return GetLastError() == ERROR_DISK_FULL ? 1 : 0;
+        bytes += escritos;
+        numero -= escritos;
+    }
+    return 1;
 }
