@@ -22,9 +22,10 @@ static constexpr int IndicePeon(int peon) {
 }
 
 // The weaker king's squares for which some advance of the pawn wins. On the last rank it wins unless it can be taken at
-// once, by a king beside it that the stronger one does not hold off; where a queen would stalemate, a rook wins as well.
-// Any other advance asks the table of the square it reaches, which is complete: the pawns nearer to promotion come first.
-// That table has no weaker king on its pawn, so only the square that a double step jumps over must be cut here.
+// once, by a king beside it that the stronger one does not hold off; where a queen would stalemate, a rook wins as
+// well. Any other advance asks the table of the square it reaches, which is complete: the pawns nearer to promotion
+// come first. That table has no weaker king on its pawn, so only the square that a double step jumps over must be cut
+// here.
 static Conjunto GanaAvanzando(int peon, int rey) {
     const int paso = peon - 8;
     if (paso == rey) return 0;
