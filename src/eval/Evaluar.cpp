@@ -88,7 +88,7 @@ int Evaluar() {
     TableroGlobal.Fase = CalcularFase();
 
     EntradaCache* const entrada = EntradaDeCache();
-    if (entrada != nullptr && entrada->Key == TableroGlobal.Key) return DesdeTurno(entrada->Puntos);
+    if (entrada != nullptr && entrada->Key == TableroGlobal.Key) return DesdeTurno(DesempaquetarPuntos(entrada->Puntos));
 
     EvaluarApertura();
     EvaluarPiezasTableroJuego();  // before the endings, which use the attacks that it finds
@@ -107,7 +107,7 @@ int Evaluar() {
     SumarTurno();
 
     const int puntos = Reunir();
-    if (entrada != nullptr) *entrada = {TableroGlobal.Key, static_cast<std::int16_t>(puntos)};
+    if (entrada != nullptr) *entrada = {TableroGlobal.Key, EmpaquetarPuntos(puntos)};
     return DesdeTurno(puntos);
 }
 

@@ -1,6 +1,7 @@
 #include <sys/mman.h>
 
 #include <cstdint>
+#include <cstring>
 
 #include "plataforma/Memoria.h"
 
@@ -25,6 +26,16 @@ void* ReservarMemoria(std::size_t bytes) {
     madvise(bloque, longitud, MADV_HUGEPAGE);  // a wish: without large pages the block serves just as well
 #endif
     return bloque;
+}
+
+// Only on Linux does the advice promise zeros, and only for memory that is not locked.
+int VaciarMemoria(void* memoria, std::size_t bytes) {
+    if (memoria == nullptr) return 1;
+#ifdef __linux__
+    if (bytes > BLOQUE_ESCRITO && madvise(memoria, RedondearAPaginas(bytes), MADV_DONTNEED) == 0) return 1;
+#endif
+    std::memset(memoria, 0, bytes);
+    return 1;
 }
 
 void LiberarMemoria(void* memoria, std::size_t bytes) {

@@ -23,10 +23,6 @@ constexpr int           PROFUNDIDAD_TT  = 126;  // deepest depth that is kept
 constexpr int           BITS_CAMPO      = 7;
 constexpr int           MASCARA_CAMPO   = (1 << BITS_CAMPO) - 1;
 
-constexpr EntradaTransposicion VIA_VACIA   = {0, 0, -VALOR_INFINITO, 0};
-constexpr CuboTransposicion    CUBO_VACIO  = {{VIA_VACIA, VIA_VACIA, VIA_VACIA, VIA_VACIA}};
-constexpr EntradaCache         CACHE_VACIA = {0, -VALOR_INFINITO};
-
 // Sizes of the blocks in use. The option fields cannot tell them: "setoption" changes those at any time.
 static std::size_t BytesDatos = 0;
 static std::size_t BytesCache = 0;
@@ -88,6 +84,18 @@ void LiberarTransposicion() {
     TT_Cache = nullptr;
 }
 
+static void QuedarseSinMemoria() {
+    Imprimir("info string Memoria insuficiente para la tabla hash.\n");
+    LiberarTransposicion();
+    Salir = 1;
+}
+
+static void IniciarContadores() {
+    TT_Opciones.Edad           = EDAD_MIN;
+    TT_Opciones.Usadas         = 0;
+    TT_Opciones.Sobrescrituras = 0;
+}
+
 void CrearTransposicion(int megas) {
     LiberarTransposicion();
     RepartirMemoria(megas);
@@ -96,24 +104,18 @@ void CrearTransposicion(int megas) {
 
     TT_Datos = static_cast<CuboTransposicion*>(ReservarMemoria(BytesDatos));
     if (BytesCache != 0) TT_Cache = static_cast<EntradaCache*>(ReservarMemoria(BytesCache));
-    if (TT_Datos == nullptr || (BytesCache != 0 && TT_Cache == nullptr)) {
-        Imprimir("info string Memoria insuficiente para la tabla hash.\n");
-        LiberarTransposicion();
-        Salir = 1;
-    }
-    LimpiarTransposicion();
+    if (TT_Datos == nullptr || (BytesCache != 0 && TT_Cache == nullptr)) QuedarseSinMemoria();
+    IniciarContadores();  // the memory itself comes empty
 }
 
 void LimpiarTransposicion() {
-    if (TT_Datos != nullptr) std::fill_n(TT_Datos, TT_Opciones.NumeroCubos + 1, CUBO_VACIO);
+    if (VaciarMemoria(TT_Datos, BytesDatos) == 0) QuedarseSinMemoria();
     LimpiarCache();
-    TT_Opciones.Edad           = EDAD_MIN;
-    TT_Opciones.Usadas         = 0;
-    TT_Opciones.Sobrescrituras = 0;
+    IniciarContadores();
 }
 
 void LimpiarCache() {
-    if (TT_Cache != nullptr) std::fill_n(TT_Cache, TT_Opciones.NumeroCache + 1, CACHE_VACIA);
+    if (VaciarMemoria(TT_Cache, BytesCache) == 0) QuedarseSinMemoria();
 }
 
 static void ContarUsada() {
@@ -155,7 +157,7 @@ void AlmacenarPosicion(int profundidad, int puntos, int cota, std::uint32_t movi
     EntradaTransposicion& via = ElegirVia(CuboActual());
     if (movimiento != 0 || via.Key != TableroGlobal.Key) via.Movimiento = movimiento;
     via.Key    = TableroGlobal.Key;
-    via.Puntos = static_cast<std::int16_t>(PuntosDesdeNodo(puntos));
+    via.Puntos = EmpaquetarPuntos(PuntosDesdeNodo(puntos));
     via.Info   = CrearInfo(profundidad, cota);
 }
 
@@ -166,11 +168,11 @@ int RecuperarPosicion(int alfa, int beta, int profundidad, int* puntos, std::uin
     const EntradaTransposicion* via = BuscarVia();
     if (via == nullptr) return 0;
 
-    *puntos     = via->Puntos;
+    *puntos     = DesempaquetarPuntos(via->Puntos);
     *movimiento = via->Movimiento;
     if (ProfundidadDe(*via) < profundidad) return 0;
 
-    *puntos = PuntosDesdeRaiz(via->Puntos);
+    *puntos = PuntosDesdeRaiz(*puntos);
     switch (CotaDe(*via)) {
         case COTA_EXACTA:
             return 1;
@@ -190,8 +192,9 @@ std::uint32_t MovimientoDeTabla() {
 
 int DesaconsejaNulo(int alfa, int beta, int profundidad) {
     const EntradaTransposicion* via = BuscarVia();
-    return via != nullptr && CotaDe(*via) == COTA_SUPERIOR && ProfundidadDe(*via) >= profundidad &&
-           via->Puntos < beta && via->Puntos <= alfa;
+    if (via == nullptr || CotaDe(*via) != COTA_SUPERIOR || ProfundidadDe(*via) < profundidad) return 0;
+    const int puntos = DesempaquetarPuntos(via->Puntos);
+    return puntos < beta && puntos <= alfa;
 }
 
 int Hashfull() {

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "board/Puntuacion.h"
 #include "board/Tablero.h"
 
 constexpr int VIAS_CUBO = 4;
@@ -10,10 +11,21 @@ constexpr int EDAD_MAX  = 126;  // largest age that an entry holds; beyond it th
 
 enum TipoCota : int { COTA_EXACTA = 1, COTA_SUPERIOR = 2, COTA_INFERIOR = 3 };
 
+// Scores are kept 16 bits wide and shifted, so that zeroed memory is a table of empty entries, whose score is
+// -VALOR_INFINITO: emptying a table then writes nothing.
+constexpr std::uint16_t EmpaquetarPuntos(int puntos) {
+    return static_cast<std::uint16_t>(puntos + VALOR_INFINITO);
+}
+constexpr int DesempaquetarPuntos(std::uint16_t guardados) {
+    return guardados - VALOR_INFINITO;
+}
+static_assert(DesempaquetarPuntos(0) == -VALOR_INFINITO);
+static_assert(DesempaquetarPuntos(EmpaquetarPuntos(VALOR_INFINITO)) == VALOR_INFINITO);
+
 struct EntradaTransposicion {
     std::uint64_t Key;         // 0 = empty
     std::uint32_t Movimiento;  // best move, 0 = none
-    std::int16_t  Puntos;      // mate scores relative to the node; -VALOR_INFINITO when empty
+    std::uint16_t Puntos;      // packed; mate scores relative to the node
     std::uint16_t Info;        // bits 0-6 depth, 7-13 age, 14-15 TipoCota
 };
 static_assert(sizeof(EntradaTransposicion) == 16);
@@ -25,7 +37,7 @@ static_assert(sizeof(CuboTransposicion) == 64);
 
 struct EntradaCache {
     std::uint64_t Key;     // 0 = empty
-    std::int16_t  Puntos;  // evaluation from White's point of view; -VALOR_INFINITO when empty
+    std::uint16_t Puntos;  // packed; evaluation from White's point of view
 };
 static_assert(sizeof(EntradaCache) == 16);
 
@@ -46,7 +58,7 @@ extern EntradaCache*       TT_Cache;  // nullptr = no cache
 // runs out it prints a line and raises Salir.
 void CrearTransposicion(int megas);
 void LiberarTransposicion();
-void LimpiarTransposicion();  // empties the table and the cache, age 1
+void LimpiarTransposicion();  // empties the table and the cache, age 1; fails as CrearTransposicion
 void LimpiarCache();          // empties the evaluation cache alone
 
 // Stores the current position. profundidad in plies; mate scores are made relative to the node. A move of 0

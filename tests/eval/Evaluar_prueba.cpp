@@ -61,10 +61,10 @@ TEST_F(Evaluador, LaCacheGuardaDesdeElBlanco) {
     CargarPosicion(APERTURA_N);
     const int puntos = Evaluar();
     EXPECT_EQ(Entrada().Key, TableroGlobal.Key);
-    EXPECT_EQ(Entrada().Puntos, -puntos);
+    EXPECT_EQ(DesempaquetarPuntos(Entrada().Puntos), -puntos);
     EXPECT_EQ(Evaluar(), puntos);
 
-    Entrada().Puntos = -1234;  // a second call answers from the cache and evaluates nothing
+    Entrada().Puntos = EmpaquetarPuntos(-1234);  // a second call answers from the cache and evaluates nothing
     EXPECT_EQ(Evaluar(), 1234);
     EXPECT_EQ(Blancas.Movilidad_OP, 0);
     TableroGlobal.Turno = BLANCO;
@@ -73,7 +73,7 @@ TEST_F(Evaluador, LaCacheGuardaDesdeElBlanco) {
     TableroGlobal.Turno = NEGRO;
     Entrada().Key ^= 2;  // another position in the slot is replaced
     EXPECT_EQ(Evaluar(), puntos);
-    EXPECT_EQ(Entrada().Puntos, -puntos);
+    EXPECT_EQ(DesempaquetarPuntos(Entrada().Puntos), -puntos);
     CrearTransposicion(16);  // no cache at this size
     EXPECT_EQ(Evaluar(), puntos);
 }

@@ -1,6 +1,7 @@
 #include "plataforma/Memoria.h"
 
 #include <gtest/gtest.h>
+#include <sys/mman.h>
 
 #include <cstdint>
 
@@ -15,4 +16,20 @@ TEST(Memoria, EntregaBloquesAlineadosYACero) {
     }
     for (const std::size_t imposible : {std::size_t{0}, SIZE_MAX / 4, SIZE_MAX})
         EXPECT_EQ(ReservarMemoria(imposible), nullptr);
+}
+
+TEST(Memoria, VaciaBloquesYDevuelveLosGrandes) {
+    for (const std::size_t bytes : {std::size_t{1}, BLOQUE_ESCRITO, BLOQUE_ESCRITO + 1}) {
+        char* const bloque = static_cast<char*>(ReservarMemoria(bytes));
+        ASSERT_NE(bloque, nullptr) << bytes;
+        const std::size_t medio = bytes / 2;
+        bloque[0] = bloque[medio] = bloque[bytes - 1] = 1;
+        EXPECT_EQ(VaciarMemoria(bloque, bytes), 1);
+        unsigned char presente = 0;
+        ASSERT_EQ(mincore(bloque, 1, &presente), 0);
+        EXPECT_EQ(presente & 1, bytes > BLOQUE_ESCRITO ? 0 : 1) << bytes;
+        EXPECT_EQ(bloque[0] | bloque[medio] | bloque[bytes - 1], 0) << bytes;
+        LiberarMemoria(bloque, bytes);
+    }
+    EXPECT_EQ(VaciarMemoria(nullptr, 0), 1);
 }

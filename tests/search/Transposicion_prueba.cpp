@@ -45,7 +45,9 @@ TEST_F(Transposicion, ElTamanoSigueALaOpcionHash) {
         EXPECT_EQ(TT_Opciones.NumeroCubos, caso.Cubos);
         EXPECT_EQ(TT_Opciones.NumeroCache, caso.Entradas);
         EXPECT_EQ(TT_Cache != nullptr, caso.Cache != 0);
-        EXPECT_EQ(TT_Datos[caso.Cubos].Vias[VIAS_CUBO - 1].Puntos, -VALOR_INFINITO);
+        EXPECT_EQ(DesempaquetarPuntos(TT_Datos[caso.Cubos].Vias[VIAS_CUBO - 1].Puntos), -VALOR_INFINITO);
+        if (TT_Cache == nullptr) continue;
+        EXPECT_EQ(DesempaquetarPuntos(TT_Cache[caso.Entradas].Puntos), -VALOR_INFINITO);
     }
 }
 
@@ -79,11 +81,13 @@ TEST_F(Transposicion, LaCotaYLaProfundidadDecidenSiCorta) {
         EXPECT_EQ(leida.Puntos, 100);
         EXPECT_EQ(leida.Movimiento, 7U);
     }
-    TableroGlobal.Key ^= 2;
-    const Leida ajena = Leer(-1, 1, 0);
-    EXPECT_EQ(ajena.Decide, 0);
-    EXPECT_EQ(ajena.Puntos, -VALOR_INFINITO);
-    EXPECT_EQ(ajena.Movimiento, 0U);
+    for (const std::uint64_t key : {TableroGlobal.Key ^ 2, std::uint64_t{0}}) {  // 0 meets an empty way
+        TableroGlobal.Key = key;
+        const Leida ajena = Leer(-1, 1, 0);
+        EXPECT_EQ(ajena.Decide, 0);
+        EXPECT_EQ(ajena.Puntos, -VALOR_INFINITO);
+        EXPECT_EQ(ajena.Movimiento, 0U);
+    }
 }
 
 TEST_F(Transposicion, SinMovimientoConservaElQueHabia) {
