@@ -5,8 +5,6 @@
 
 #include "board/Tablero.h"
 
-constexpr int OBJETIVOS_MAX = 112;  // capacity of RegistroBando::Objetivos
-
 // Piece counters, and from Puntos_OP on the values of one evaluation.
 struct RegistroBando {
     // Pieces on the board, kings not counted. Set-up and make/unmake maintain them.
@@ -26,11 +24,11 @@ struct RegistroBando {
     int Ataque_Valor;   // summed weight of the attacks on the enemy king zone
     int Ataque_Numero;  // pieces of the side that attack the enemy king zone
 
-    int          Peones_Septima;  // own pawns on the side's seventh rank
-    std::uint8_t Defensa[64];     // own pieces that defend the (own-occupied) square
-    int          Numero_Objetivos;
-    std::uint8_t Objetivos[OBJETIVOS_MAX];  // squares of enemy pieces, king included, that own pieces attack;
-                                            // one entry an attack, dropped when full
+    int Peones_Septima;  // own pawns on the side's seventh rank
+
+    // Sets of squares, bit n for square n. Nobody asks how often a square is in them.
+    std::uint64_t Defensa;    // own pieces that an own piece defends
+    std::uint64_t Objetivos;  // enemy pieces, king included, that an own piece attacks
 };
 extern RegistroBando Blancas;
 extern RegistroBando Negras;

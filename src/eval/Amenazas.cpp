@@ -10,19 +10,20 @@ constexpr int att_on_hang_mg[16] = {0, 11, 15, 15, 17, 25,  0,  0, 11, 15, 15, 1
 constexpr int att_on_hang_eg[16] = {0, 19, 23, 23, 25, 33,  0,  0, 19, 23, 23, 25, 33,  0,  0,  0};
 // clang-format on
 
-// Each piece counts once, however many attack it.
+// Attacked pieces that nothing defends. Each counts once, however many attack it.
 template <int C>
 static void EvaluarColgadas() {
-    const RegistroBando& bando  = BandoDe<C>();
-    const RegistroBando& rival  = BandoDe<RIVAL<C>>();
-    Conjunto             vistas = 0;
-    for (int i = 0; i < bando.Numero_Objetivos; ++i) {
-        const int casilla = bando.Objetivos[i];
-        if (rival.Defensa[casilla] != 0 || Contiene(vistas, casilla)) continue;
-        vistas |= Bit(casilla);
-        const int pieza = TableroGlobal.Casillas[casilla];
-        Sumar<C>(att_on_hang_mg[pieza], att_on_hang_eg[pieza]);
-    }
+    const ConjuntosBando& rival    = Conjuntos[RIVAL<C>];
+    const Conjunto        colgadas = BandoDe<C>().Objetivos & ~BandoDe<RIVAL<C>>().Defensa;
+    if (colgadas == 0) return;
+    const auto sumar = [colgadas](Conjunto piezas, int codigo) {
+        Sumar<C>(att_on_hang_mg[codigo], att_on_hang_eg[codigo], Cuantas(colgadas & piezas));
+    };
+    sumar(rival.Peones, PEON<RIVAL<C>>);
+    sumar(rival.Caballos, CABALLO<RIVAL<C>>);
+    sumar(rival.Alfiles, ALFIL<RIVAL<C>>);
+    sumar(rival.Torres, TORRE<RIVAL<C>>);
+    sumar(rival.Damas, DAMA<RIVAL<C>>);
 }
 
 // A piece that more enemies attack than own pieces defend, although it is no loose piece.

@@ -24,7 +24,7 @@ static void EvaluarControlPeones() {
 
     propios.Ataque_Peones = hacia_a | hacia_h;
     propios.Alcance_Peon  = AtaquesDePeones<C>(HastaElFinal<C>(propios.Peones));
-    propios.Ataques       = Cuenta{{hacia_a ^ hacia_h, hacia_a & hacia_h, 0, 0}};
+    propios.Ataques       = Cuenta{hacia_a | hacia_h, hacia_a & hacia_h};
 }
 
 // The structure of all pawns at once: a step or a scan is a shift.

@@ -238,33 +238,10 @@ static void AnotarAtaquesTorres() {
 }
 
 template <int C>
-static void AnotarObjetivos(Conjunto casillas, int veces) {
-    RegistroBando& bando  = BandoDe<C>();
-    int            numero = bando.Numero_Objetivos;
-    while (casillas != 0) {
-        const int casilla = SacarCasilla(casillas);
-        for (int vez = 0; vez < veces && numero < OBJETIVOS_MAX; ++vez)
-            bando.Objetivos[numero++] = static_cast<std::uint8_t>(casilla);
-    }
-    bando.Numero_Objetivos = numero;
-}
-
-// One entry an attack: a square whose count has the digit of 2^n goes in 2^n times.
-template <int C>
-static void LlenarObjetivos() {
-    const Cuenta&  suma   = Conjuntos[C].Ataques;
-    const Conjunto piezas = Conjuntos[RIVAL<C>].Todas;
-    AnotarObjetivos<C>(suma.Digitos[0] & piezas, 1);
-    AnotarObjetivos<C>(suma.Digitos[1] & piezas, 2);
-    AnotarObjetivos<C>(suma.Digitos[2] & piezas, 4);
-    AnotarObjetivos<C>(suma.Digitos[3] & piezas, 8);
-}
-
-template <int C>
 static void LlenarMapas() {
     AnotarAtaquesRey<C>();
-    EscribirCuenta(Conjuntos[C].Ataques, Conjuntos[C].Todas, BandoDe<C>().Defensa);
-    LlenarObjetivos<C>();
+    BandoDe<C>().Defensa   = ConUnoOMas(Conjuntos[C].Ataques) & Conjuntos[C].Todas;
+    BandoDe<C>().Objetivos = ConUnoOMas(Conjuntos[C].Ataques) & Conjuntos[RIVAL<C>].Todas;
     AnotarAtaquesTorres<C>();
 }
 

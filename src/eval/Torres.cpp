@@ -70,13 +70,8 @@ static Vista Mirar(int torre) {
 // Defended own pieces and attacked enemy ones, for the other terms.
 template <int C>
 static void AnotarContactos(const Vista& vista) {
-    RegistroBando& propio = BandoDe<C>();
-    for (Conjunto propias = vista.Todas & Conjuntos[C].Todas; propias != 0;) ++propio.Defensa[SacarCasilla(propias)];
-    for (Conjunto atacadas = vista.Todas & Conjuntos[RIVAL<C>].Todas; atacadas != 0;) {
-        const int casilla = SacarCasilla(atacadas);
-        if (propio.Numero_Objetivos < OBJETIVOS_MAX)
-            propio.Objetivos[propio.Numero_Objetivos++] = static_cast<std::uint8_t>(casilla);
-    }
+    BandoDe<C>().Defensa |= vista.Todas & Conjuntos[C].Todas;
+    BandoDe<C>().Objetivos |= vista.Todas & Conjuntos[RIVAL<C>].Todas;
 }
 
 // Is there a piece that the rook, were it its turn, would win or exchange? Each capture is tried on the board.

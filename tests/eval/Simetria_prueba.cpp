@@ -77,7 +77,7 @@ constexpr std::pair<const char*, int RegistroBando::*> CAMPOS[] = {
     {"Movilidad_OP", &RegistroBando::Movilidad_OP},     {"Movilidad_EG", &RegistroBando::Movilidad_EG},
     {"Tropismo_OP", &RegistroBando::Tropismo_OP},       {"Tropismo_EG", &RegistroBando::Tropismo_EG},
     {"Ataque_Valor", &RegistroBando::Ataque_Valor},     {"Ataque_Numero", &RegistroBando::Ataque_Numero},
-    {"Peones_Septima", &RegistroBando::Peones_Septima}, {"Objetivos", &RegistroBando::Numero_Objetivos},
+    {"Peones_Septima", &RegistroBando::Peones_Septima},
 };
 
 std::string Fen() {
@@ -104,6 +104,9 @@ void CompararConReflejo() {
         EXPECT_EQ(Negras.*campo, blancas.*campo) << nombre << " of White";
         EXPECT_EQ(Blancas.*campo, negras.*campo) << nombre << " of Black";
     }
+    // A rank is a byte of a set.
+    EXPECT_EQ(__builtin_bswap64(Negras.Objetivos), blancas.Objetivos);
+    EXPECT_EQ(__builtin_bswap64(Blancas.Objetivos), negras.Objetivos);
     ReflejarPosicion();
 }
 
