@@ -39,8 +39,7 @@ static const char* LeerProfundidad(const char* texto, int* profundidad) {
     char        palabra[PALABRA_MAX];
     const char* resto = Split_String(texto, palabra);
     if (Es_Numero(palabra) == 0) return resto;
-    const auto valor = static_cast<std::uint32_t>(NumeroDe32Bits(palabra));
-    *profundidad     = valor >= PROFUNDIDAD_MAX ? PROFUNDIDAD_SIN_LIMITE : static_cast<int>(valor) + 1;
+    *profundidad = NumeroAcotado(palabra, PROFUNDIDAD_MAX) + 1;
     return resto;
 }
 
