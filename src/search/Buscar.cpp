@@ -86,6 +86,11 @@ static void GuardarIteracion() {
     if (pv_line[0][0] != 0) std::memcpy(pv_line_fin, pv_line[0], sizeof pv_line_fin);
 }
 
+// Row 0 becomes the line of the last finished iteration again.
+static void RecuperarLineaFinal() {
+    std::memcpy(pv_line[0], pv_line_fin, sizeof pv_line_fin);
+}
+
 int BuscarIterativo() {
     const int en_jaque    = InicioBusqueda();
     int&      profundidad = TipoJuego.ProfundidadActual;
@@ -96,7 +101,10 @@ int BuscarIterativo() {
 
         const int anterior = puntos;
         const int nuevos   = BuscarRaiz(profundidad, anterior, en_jaque);
-        if (!primera && TipoJuego.Parar == 1) break;  // an unfinished iteration proves nothing
+        if (!primera && TipoJuego.Parar == 1) {  // an unfinished iteration proves nothing
+            RecuperarLineaFinal();
+            break;
+        }
         puntos = nuevos;
 
         // A mate found twice is believed; deepening on could only repeat it.
@@ -113,8 +121,8 @@ static void ImprimirUltimaLinea(int puntos) {
     if (LineaImpresa == 1 || pv_line_fin[0] == 0) return;
     TipoJuego.MejorMovimiento  = pv_line_fin[0];
     TipoJuego.MovimientoPonder = pv_line_fin[1];
-    // Row 0 may hold the line of an iteration that did not count.
-    std::memcpy(pv_line[0], pv_line_fin, sizeof pv_line_fin);
+    // A mate found twice has left its own line in row 0; it goes with the score, unless it begins with another move.
+    if (pv_line[0][0] != pv_line_fin[0]) RecuperarLineaFinal();
     const int infinito = TipoJuego.Infinito;
     TipoJuego.Infinito = 1;  // passes the filter of the output
     ImprimirPv(TipoJuego.ProfundidadActual, &LineaImpresa, puntos, 0);

@@ -54,6 +54,14 @@ TEST_F(Conductor, ElMateDosVecesTerminaSalvoSinLimite) {
     EXPECT_EQ(Tras(salida.Iteraciones.back(), "depth"), "32");
 }
 
+TEST_F(Conductor, LaLineaFinalEsLaDelMateQueAnuncia) {
+    TipoJuego.ShowPv        = SHOWPV_NONE;
+    const Salida      mate  = Correr("r2qkb1r/pp2nppp/3p4/2pNN1B1/2BnP3/3P4/PPP2PPP/R2bK2R w KQkq - 1 1", 9);
+    const std::string linea = " score mate 2 pv d5f6 g7f6 c4f7 ";
+    ASSERT_EQ(mate.Iteraciones.size(), 1U);
+    EXPECT_NE(mate.Iteraciones[0].find(linea), std::string::npos) << mate.Iteraciones[0];
+}
+
 TEST_F(Conductor, SinIteracionAcabadaRespondeLaPrimeraLegal) {
     EXPECT_EQ(Correr(POSICIONES[0], 1).Respuesta, "bestmove g1h3");
     TipoJuego.Parar = 1;
