@@ -1,148 +1,136 @@
 #include "board/HacerMovimiento.h"
 
 #include <cstring>
+#include <set>
 
 #include "board/Ataques.h"
-#include "board/Ayudas.h"
+#include "comun/Tablero.h"
 
-using HacerMovimiento_ = Tablero;
-
-// Turno's king is not attacked by the side that does not move.
-static int EnJaque() {
-    return Jaque2(TableroGlobal.Turno == 1 ? TableroGlobal.PosicionReyBlanco : TableroGlobal.PosicionReyNegro);
-}
-
-static std::uint32_t Jugada(const std::string& texto) {
-    for (const std::uint32_t mov : Generar(GENERAR_TODOS))
-        if (Texto(mov) == texto) return mov;
-    ADD_FAILURE() << texto;
-    return 0;
-}
+using Jugadas = Tablero;
 
 // The used parts of the stacks, the rest of the record, and the counters.
 struct Foto {
     RegistroTablero tablero;
     RegistroBando   blancas, negras;
     explicit Foto() : tablero(TableroGlobal), blancas(Blancas), negras(Negras) {
-        const auto usadas = static_cast<unsigned>(tablero.NumeroKeys);
-        std::fill(tablero.HistorialKeys + usadas, tablero.HistorialKeys + KEYS_MAX, 0);
-        std::memset(&tablero.Deshacer[tablero.Ply], 0,
-                    sizeof(EstadoDeshacer) * static_cast<unsigned>(PLIES_MAX - tablero.Ply));
+        std::fill(tablero.HistorialKeys + tablero.NumeroKeys, tablero.HistorialKeys + KEYS_MAX, 0);
+        std::fill(tablero.Deshacer + tablero.Ply, tablero.Deshacer + PLIES_MAX, EstadoDeshacer{});
     }
     bool operator==(const Foto& otra) const {
-        return std::memcmp(&tablero, &otra.tablero, sizeof(tablero)) == 0 &&
-               std::memcmp(&blancas, &otra.blancas, sizeof(blancas)) == 0 &&
-               std::memcmp(&negras, &otra.negras, sizeof(negras)) == 0;
+        return std::memcmp(&tablero, &otra.tablero, sizeof tablero) == 0 &&
+               std::memcmp(&blancas, &otra.blancas, sizeof blancas) == 0 &&
+               std::memcmp(&negras, &otra.negras, sizeof negras) == 0;
     }
 };
 
-TEST_F(HacerMovimiento_, DeshacerDejaTodoComoEstaba) {
+TEST_F(Jugadas, DeshacerDejaTodoComoEstaba) {
     for (const char* posicion : POSICIONES) {
         Fen(posicion);
         PartidasAlAzar(10, 60, [](const std::vector<std::uint32_t>& movimientos) {
-            const int  en_jaque = EnJaque();
-            const Foto antes;
+            const RegistroTablero& t        = TableroGlobal;
+            const int              en_jaque = Jaque2(t.Turno == 1 ? t.PosicionReyBlanco : t.PosicionReyNegro);
+            const Foto             antes;
             for (const std::uint32_t mov : movimientos) {
                 const int legal = HacerMovimiento(mov);
-                const int rey =
-                    PiezaMovida(mov) < VACIO ? TableroGlobal.PosicionReyBlanco : TableroGlobal.PosicionReyNegro;
-                ASSERT_EQ(legal, !Peon_Asalvo(rey, PiezaMovida(mov) < VACIO)) << Texto(mov);
+                ASSERT_EQ(legal, !Peon_Asalvo(t.Turno == 0 ? t.PosicionReyBlanco : t.PosicionReyNegro, 1 - t.Turno));
                 DeshacerMovimiento();
                 ASSERT_EQ(HacerMovimientoConJaque(mov, en_jaque), legal) << Texto(mov);
                 DeshacerMovimiento();
                 ASSERT_TRUE(antes == Foto()) << Texto(mov);
             }
-            if (TableroGlobal.Ply < PLIES_MAX - 1) {
-                HacerMovimientoNull();
-                ASSERT_EQ(TableroGlobal.FichaAlPaso, 0);
-                DeshacerMovimientoNull();
-                TableroGlobal.Deshacer[TableroGlobal.Ply] = {};
-                ASSERT_TRUE(antes == Foto());
-            }
+            if (t.Ply == PLIES_MAX - 1) return;
+            HacerMovimientoNull();
+            ASSERT_EQ(t.FichaAlPaso, 0);
+            ASSERT_EQ(t.Regla50, antes.tablero.Regla50 + 1);
+            DeshacerMovimientoNull();
+            ASSERT_TRUE(antes == Foto());
         });
     }
 }
 
 // Without castling states in play the incremental key is the key from scratch.
-TEST_F(HacerMovimiento_, ClaveIncremental) {
+TEST_F(Jugadas, ClaveIncremental) {
     for (const char* posicion : {"rnbqkbnr/pppppppp/8/8/8/8/PPPPPPPP/RNBQKBNR w - - 0 1", POSICIONES[2]}) {
         Fen(posicion);
-        PartidasAlAzar(20, 60, [](const std::vector<std::uint32_t>&) {
-            // A double push that overwrites an earlier one leaves the earlier key in.
-            static std::uint64_t   resto = 0;
-            const RegistroTablero& t     = TableroGlobal;
-            if (t.Ply == 0) resto = 0;
-            if (t.Ply > 0) {
+        std::uint64_t resto = 0;  // a double push that overwrites an earlier one leaves the earlier key in
+        PartidasAlAzar(20, 60, [&resto](const std::vector<std::uint32_t>&) {
+            const RegistroTablero& t = TableroGlobal;
+            if (t.Ply == 0) {
+                resto = 0;
+            } else {
                 const EstadoDeshacer& ultima = t.Deshacer[t.Ply - 1];
-                const bool            pisado =
-                    (ultima.Movimiento & (BIT_DOBLE_AVANCE | BIT_AL_PASO)) != 0 && ultima.FichaAlPaso != 0;
-                if (pisado) resto ^= zobrist_Tablero[FILA_AL_PASO][ultima.FichaAlPaso];
+                if ((ultima.Movimiento & (BIT_DOBLE_AVANCE | BIT_AL_PASO)) != 0 && ultima.FichaAlPaso != 0)
+                    resto ^= zobrist_Tablero[FILA_AL_PASO][ultima.FichaAlPaso];
             }
             ASSERT_EQ(t.Key ^ resto, ObtenerKey());
         });
     }
 }
 
-TEST_F(HacerMovimiento_, EstadosDeEnroqueYSusClaves) {
-    struct Caso {
+// The key of the state that is lost stays in.
+TEST_F(Jugadas, EstadosDeEnroqueYSusClaves) {
+    constexpr char BLANCAS[] = "r3k2r/8/8/8/8/8/8/R3K2R w KQkq - 0 1";
+    constexpr char NEGRAS[]  = "r3k2r/8/8/8/8/8/8/R3K2R b KQkq - 0 1";
+    struct {
         const char* fen;
         const char* jugada;
         int         blancas, negras;
-        int         columna;  // of the castling key that is added, -1 = none
+        int         columna;  // of the key that stays in, -1 = none
+    } const CASOS[] = {
+        {BLANCAS, "a1b1", 1, 3, 60},
+        {BLANCAS, "h1g1", 2, 3, 60},
+        {BLANCAS, "e1e2", 0, 3, 60},
+        {BLANCAS, "e1g1", 5, 3, 60},
+        {BLANCAS, "e1c1", 4, 3, 60},
+        {NEGRAS, "h8g8", 3, 2, 3},
+        {NEGRAS, "a8b8", 3, 1, 3},
+        {NEGRAS, "e8g8", 3, 5, 3},
+        {NEGRAS, "e8c8", 3, 4, 3},
+        {BLANCAS, "a1a8", 1, 3, 60},  // the captured rook's side keeps its state
+        {"4k3/8/8/8/8/8/8/R3K2R w K - 0 1", "a1b1", 1, 0, -1},
     };
-    const char* const BLANCAS = "r3k2r/8/8/8/8/8/8/R3K2R w KQkq - 0 1";
-    const char* const NEGRAS  = "r3k2r/8/8/8/8/8/8/R3K2R b KQkq - 0 1";
-    const Caso        CASOS[] = {
-               {BLANCAS, "a1b1", 1, 3, 62},
-               {BLANCAS, "h1g1", 2, 3, 61},
-               {BLANCAS, "e1e2", 0, 3, 63},
-               {BLANCAS, "e1g1", 5, 3, 58},
-               {BLANCAS, "e1c1", 4, 3, 59},
-               {NEGRAS, "h8g8", 3, 2, 2},
-               {NEGRAS, "a8b8", 3, 1, 1},
-               {NEGRAS, "e8d7", 3, 0, 0},
-               {NEGRAS, "e8g8", 3, 5, 5},
-               {NEGRAS, "e8c8", 3, 4, 4},
-               {BLANCAS, "a1a8", 1, 3, 62},  // the captured rook's side keeps its state
-               {"4k3/8/8/8/8/8/8/R3K2R w K - 0 1", "a1b1", 1, 0, -1},
-    };
-    for (const Caso& caso : CASOS) {
+    for (const auto& caso : CASOS) {
         SCOPED_TRACE(caso.jugada);
         Fen(caso.fen);
-        const std::uint32_t mov   = Jugada(caso.jugada);
-        const std::uint64_t antes = TableroGlobal.Key;
-        const int           pieza = PiezaMovida(mov);
-        HacerMovimiento(mov);
+        HacerMovimiento(Buscado(caso.jugada));
         EXPECT_EQ(TableroGlobal.EnroqueBlancas, caso.blancas);
         EXPECT_EQ(TableroGlobal.EnroqueNegras, caso.negras);
-        std::uint64_t cambio = antes ^ TableroGlobal.Key ^ zobrist_Turno ^ zobrist_Tablero[pieza][Desde(mov)] ^
-                               zobrist_Tablero[pieza][Hasta(mov)];
-        if (EsCaptura(mov)) cambio ^= zobrist_Tablero[PiezaCapturada(mov)][Hasta(mov)];
-        if (EsEnroque(mov)) {
-            const bool corto = Hasta(mov) > Desde(mov);
-            const int  torre = pieza == REY_B ? TORRE_B : TORRE_N;
-            cambio ^= zobrist_Tablero[torre][Hasta(mov) + (corto ? 1 : -2)];
-            cambio ^= zobrist_Tablero[torre][Hasta(mov) + (corto ? -1 : 1)];
-        }
-        EXPECT_EQ(cambio, caso.columna < 0 ? 0 : zobrist_Tablero[FILA_ENROQUE][caso.columna]);
+        EXPECT_EQ(TableroGlobal.Key ^ ObtenerKey(), caso.columna < 0 ? 0 : zobrist_Tablero[FILA_ENROQUE][caso.columna]);
     }
+    Fen("r3k2r/8/8/8/8/8/8/R4RK1 b kq - 0 1");
+    TableroGlobal.EnroqueBlancas = ENROCADO_CORTO;
+    Jugar({"e8d7", "f1e1", "a8b8", "g1f1"});
+    EXPECT_EQ(TableroGlobal.EnroqueBlancas, ENROCADO_CORTO) << "a side that has castled has nothing to lose";
 }
 
-TEST_F(HacerMovimiento_, RelojAlPasoYCoronacion) {
+TEST_F(Jugadas, RelojAlPasoYCoronacion) {
     Fen("4k3/P6p/8/6P1/8/8/8/RN2K3 b - - 7 1");
-    HacerMovimiento(Jugada("h7h5"));
+    Jugar({"h7h5"});
     EXPECT_EQ(TableroGlobal.FichaAlPaso, 31);
     EXPECT_EQ(TableroGlobal.Regla50, 0);
-    HacerMovimiento(Jugada("g5h6"));
+    Jugar({"g5h6"});
     EXPECT_EQ(Negras.Peones, 0);
     EXPECT_EQ(TableroGlobal.Casillas[31], VACIO);
-    HacerMovimiento(Jugada("e8e7"));
-    EXPECT_EQ(TableroGlobal.Regla50, 1);
-    HacerMovimiento(Jugada("a7a8r"));
+    Jugar({"e8e7", "a7a8r"});
+    EXPECT_EQ(TableroGlobal.Deshacer[3].Regla50, 1);
     EXPECT_EQ(Blancas.Peones, 1);
     EXPECT_EQ(Blancas.Torres, 2);
     EXPECT_EQ(TableroGlobal.Casillas[0], TORRE_B);
-    for (int i = 0; i < 4; ++i) DeshacerMovimiento();
-    EXPECT_EQ(Negras.Peones, 1);
-    EXPECT_EQ(TableroGlobal.Regla50, 7);
+}
+
+TEST_F(Jugadas, ClavesParesDistintasYRepetibles) {
+    std::set<std::uint64_t> claves{zobrist_Turno};
+    for (const auto& fila : zobrist_Tablero) claves.insert(std::begin(fila), std::end(fila));
+    EXPECT_EQ(claves.size(), 14U * 64U + 1U);
+    EXPECT_GT(*claves.begin(), 0x7FFFFFFFU);
+    EXPECT_TRUE(std::ranges::all_of(claves, [](std::uint64_t clave) { return clave % 2 == 0; }));
+    const std::uint64_t primera = zobrist_Tablero[0][0];
+    InicializarZobrist(2);
+    EXPECT_NE(zobrist_Tablero[0][0], primera);
+    InicializarZobrist(1);
+    EXPECT_EQ(zobrist_Tablero[0][0], primera);
+    Fen("4k3/8/8/8/4P3/8/8/4K3 b - e3 0 1");
+    EXPECT_EQ(TableroGlobal.Key, zobrist_Tablero[REY_N][4] ^ zobrist_Tablero[REY_B][60] ^ zobrist_Tablero[PEON_B][36] ^
+                                     zobrist_Tablero[FILA_AL_PASO][36] ^ zobrist_Tablero[FILA_ENROQUE][63] ^
+                                     zobrist_Tablero[FILA_ENROQUE][0]);
 }

@@ -1,49 +1,38 @@
 #include "board/Posicion.h"
 
-#include "board/Ayudas.h"
 #include "board/Fen.h"
 #include "board/Palabras.h"
+#include "comun/Tablero.h"
 
 using Posicion = Tablero;
 
 static std::string Mandar(const std::string& texto) {
-    testing::internal::CaptureStdout();
-    Position_Fen_Startpos(texto.c_str());
-    return testing::internal::GetCapturedStdout();
+    return Capturar([&texto] { Position_Fen_Startpos(texto.c_str()); });
 }
 
 TEST_F(Posicion, CamposDelFen) {
-    struct Caso {
+    struct {
         const char* fen;
         int         turno, blancas, negras, al_paso, regla50;
-    };
-    const Caso CASOS[] = {
+    } constexpr CASOS[] = {
         {"rnbqkbnr/pppppppp/8/8/8/8/PPPPPPPP/RNBQKBNR w KQkq - 3 9", 1, 3, 3, 0, 3},
         {"4k3/8/8/8/8/8/8/4K3 b qk - 0 1", 0, 0, 2, 0, 0},      // letters out of their order are lost
         {"4k3/8/8/8/8/8/8/4K3 x Kq e3 5", 0, 1, 2, 36, 5},      // any other letter is Black
         {"4k3/8/8/8/8/8/8/4K3 w - e6 0 1", 1, 0, 0, 28, 0},     // the side to move is not consulted
         {"4k3/8/8/8/8/8/8/4K3 w - e4 150 1", 1, 0, 0, 0, 100},  // no square of an advance; the clock is capped
-        {"4k3/8/8/8/8/8/8/4K3 w - - 99999999999999999999 1", 1, 0, 0, 0, 100},
         {"4k3/8/8/8/8/8/8/4K3 w - - x7 1", 1, 0, 0, 0, 0},
-        {"4k3/8/8/8/8/8/8/4K3 w", 1, 0, 0, 0, 0},
         {"4k3/8/8/8/8/8/8/4K3", 1, 0, 0, 0, 0},            // the side to move stays as it was
         {"4k3x8x8x8x8x8x8x4K3 w - - 4 1", 1, 0, 0, 0, 4},  // the separator is not examined
         {"4k8/3/8/8/8/8/8/4K3 w - - 4 1", 1, 0, 0, 0, 4},  // digits may run on into the next rank
     };
-    for (const Caso& caso : CASOS) {
+    for (const auto& caso : CASOS) {
         SCOPED_TRACE(caso.fen);
         Mandar("startpos");
         EXPECT_EQ(Mandar(std::string("fen ") + caso.fen), "");
         const RegistroTablero& t = TableroGlobal;
-        EXPECT_EQ(t.Turno, caso.turno);
-        EXPECT_EQ(t.EnroqueBlancas, caso.blancas);
-        EXPECT_EQ(t.EnroqueNegras, caso.negras);
-        EXPECT_EQ(t.FichaAlPaso, caso.al_paso);
-        EXPECT_EQ(t.Regla50, caso.regla50);
-        EXPECT_EQ(t.NumeroKeys, caso.regla50);
-        EXPECT_EQ(t.PosicionReyNegro, 4);
-        EXPECT_EQ(t.PosicionReyBlanco, 60);
-        EXPECT_EQ(t.TurnoRaiz, t.Turno);
+        EXPECT_EQ(std::vector({t.Turno, t.EnroqueBlancas, t.EnroqueNegras, t.FichaAlPaso, t.Regla50, t.NumeroKeys}),
+                  std::vector({caso.turno, caso.blancas, caso.negras, caso.al_paso, caso.regla50, caso.regla50}));
+        EXPECT_TRUE(t.PosicionReyNegro == 4 && t.PosicionReyBlanco == 60 && t.TurnoRaiz == t.Turno);
         EXPECT_EQ(t.Key, ObtenerKey());
     }
 }
@@ -53,9 +42,7 @@ TEST_F(Posicion, FenMalFormadoDejaLaInicial) {
                             "8/8/8/8/8/8/8/18 w - - 0 1", "9/8/8/8/8/8/8/8 w", "4k3/8/8/8/8/8/8/4K2 w - - 0 1"}) {
         SCOPED_TRACE(fen);
         EXPECT_EQ(Mandar(std::string("fen ") + fen + " moves e2e4"), "info string Formato FEN incorrecto.\n");
-        EXPECT_EQ(TableroGlobal.Casillas[52], PEON_B);
-        EXPECT_EQ(Blancas.Peones, 8);
-        EXPECT_EQ(Negras.Damas, 1);
+        EXPECT_TRUE(TableroGlobal.Casillas[52] == PEON_B && Blancas.Peones == 8 && Negras.Damas == 1);
         EXPECT_EQ(TipoJuego.MovimientosJugados, 0);
     }
 }

@@ -12,40 +12,31 @@ static std::uint32_t Callada(int pieza, int desde, int hasta) {
 
 class Orden : public testing::Test {
 protected:
+    ListaMovimientos lista;
+
     void SetUp() override {
         LimpiarHistorico();
         TableroGlobal.Ply = 3;
     }
-    static int Puntuar(std::uint32_t movimiento, std::uint32_t tabla = 0, std::uint32_t refutacion = 0) {
+    int Puntuar(std::uint32_t movimiento, std::uint32_t tabla = 0, std::uint32_t refutacion = 0) {
         lista.Entradas[0].Movimiento = movimiento;
         OrdenarMovimientosTodos(1, tabla, lista, refutacion);
         return lista.Entradas[0].Puntos;
     }
-    static ListaMovimientos lista;
 };
-ListaMovimientos Orden::lista;
 
-TEST_F(Orden, CapturasYCoronaciones) {
-    struct {
-        std::uint32_t Movimiento;
-        int           Puntos;
-    } const CASOS[] = {
-        {CrearMovimiento(36, 27, PEON_B, DAMA_N, NINGUNA), 5000319},
-        {CrearMovimiento(3, 51, DAMA_N, PEON_B, NINGUNA), 5000059},
-        {CrearMovimiento(60, 52, REY_B, TORRE_N, NINGUNA), 5000250},
-        {CrearMovimiento(8, 1, PEON_B, TORRE_N, DAMA_B), 4000251},
-        {CrearMovimiento(48, 57, PEON_N, CABALLO_B, CABALLO_N), 4000126},
-        {CrearMovimiento(8, 0, PEON_B, NINGUNA, DAMA_B), 3501000},
-        {CrearMovimiento(48, 56, PEON_N, NINGUNA, CABALLO_N), 3500325},
-        {Callada(PEON_B, 27, 18) | BIT_AL_PASO, 5000063},
-    };
-    for (const auto& caso : CASOS) {
-        EXPECT_EQ(Puntuar(caso.Movimiento), caso.Puntos);
-        EXPECT_EQ(Puntuar(caso.Movimiento, caso.Movimiento), 6000000);
+TEST_F(Orden, Bandas) {
+    for (const auto& [movimiento, puntos] : {std::pair{CrearMovimiento(36, 27, PEON_B, DAMA_N, NINGUNA), 5000319},
+                                             {CrearMovimiento(3, 51, DAMA_N, PEON_B, NINGUNA), 5000059},
+                                             {CrearMovimiento(60, 52, REY_B, TORRE_N, NINGUNA), 5000250},
+                                             {CrearMovimiento(8, 1, PEON_B, TORRE_N, DAMA_B), 4000251},
+                                             {CrearMovimiento(48, 57, PEON_N, CABALLO_B, CABALLO_N), 4000126},
+                                             {CrearMovimiento(8, 0, PEON_B, NINGUNA, DAMA_B), 3501000},
+                                             {CrearMovimiento(48, 56, PEON_N, NINGUNA, CABALLO_N), 3500325},
+                                             {Callada(PEON_B, 27, 18) | BIT_AL_PASO, 5000063}}) {
+        EXPECT_EQ(Puntuar(movimiento), puntos);
+        EXPECT_EQ(Puntuar(movimiento, movimiento), 6000000);
     }
-}
-
-TEST_F(Orden, BandasDeJugadasTranquilas) {
     const std::uint32_t mov = Callada(CABALLO_B, 62, 45);
     struct {
         int Historico, Mate, Killer, Refutacion, Resto;
@@ -99,34 +90,20 @@ TEST_F(Orden, UnCortePremiaSuJugadaYCastigaLasQueFallaron) {
 TEST_F(Orden, LosKillersGuardanLosDosUltimos) {
     const std::uint32_t a = Callada(TORRE_B, 63, 61), b = Callada(TORRE_B, 63, 60);
     for (const std::uint32_t mov : {a, b, b}) HistoricoActualizar(1, 50, mov, 0, lista, 0);
-    EXPECT_EQ(Historico_Killer[3][0], b);
-    EXPECT_EQ(Historico_Killer[3][1], a);
+    EXPECT_TRUE(Historico_Killer[3][0] == b && Historico_Killer[3][1] == a);
     for (const int mate : {UMBRAL_MATE + 1, -UMBRAL_MATE - 1}) {
-        Historico_Killer_Mate[3][0] = 0;
         HistoricoActualizar(1, mate, a, 0, lista, 0);
-        EXPECT_EQ(Historico_Killer_Mate[3][0], a);
+        EXPECT_EQ(std::exchange(Historico_Killer_Mate[3][0], 0), a);
     }
     EXPECT_EQ(Historico_Killer[3][0], b);
 }
 
-TEST_F(Orden, ElHistoricoSeSatura) {
-    const std::uint32_t mov        = Callada(TORRE_B, 63, 61);
-    Historico_Bueno[TORRE_B][61]   = HISTORICO_LIMITE - 1;
-    Historico_Bueno[CABALLO_B][45] = 1 - HISTORICO_LIMITE;
-    lista.Entradas[0].Movimiento   = Callada(CABALLO_B, 62, 45);
-    HistoricoActualizar(60, 50, mov, 0, lista, 1);
-    EXPECT_EQ(Max_Historico, HISTORICO_LIMITE);
-    EXPECT_EQ(Min_Historico, -HISTORICO_LIMITE);
-}
-
 TEST(Lmr, CreceConProfundidadYNumero) {
     IniciarLmr();
-    constexpr int FILA_10[] = {0, 0, 0, 1, 1, 1, 2, 2, 2, 2, 2, 2};
-    for (int numero = 0; numero < 12; ++numero) EXPECT_EQ(lmr[10][numero], FILA_10[numero]) << numero;
-    EXPECT_EQ(lmr[2][255], 1);
-    EXPECT_EQ(lmr[8][4], 1);
-    EXPECT_EQ(lmr[20][30], 5);
-    EXPECT_EQ(lmr[63][255], 8);
-    for (int i = 0; i < LMR_COLUMNAS; ++i) EXPECT_EQ(lmr[0][i] + lmr[1][i] + lmr[i % LMR_FILAS][i / LMR_FILAS % 2], 0);
-    EXPECT_EQ(ReduccionLmr(64, 256), 8);
+    struct {
+        int Profundidad, Numero, Plies;
+    } constexpr CASOS[] = {{0, 255, 0}, {1, 255, 0}, {2, 255, 1}, {8, 4, 1},   {10, 2, 0},   {10, 3, 1},
+                           {10, 5, 1},  {10, 6, 2},  {20, 30, 5}, {63, 63, 8}, {63, 255, 8}, {64, 256, 8}};
+    for (const auto& caso : CASOS)
+        EXPECT_EQ(ReduccionLmr(caso.Profundidad, caso.Numero), caso.Plies) << caso.Profundidad << " " << caso.Numero;
 }

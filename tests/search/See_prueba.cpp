@@ -1,11 +1,10 @@
 #include "search/See.h"
 
-#include <algorithm>
-#include <iterator>
+#include <cstring>
 
 #include "search/Ayudas.h"
 
-class Intercambio : public Busqueda {};
+using Intercambio = Busqueda;
 
 TEST_F(Intercambio, SumaHastaLaUltimaRecapturaSinSuGanancia) {
     struct {
@@ -14,11 +13,8 @@ TEST_F(Intercambio, SumaHastaLaUltimaRecapturaSinSuGanancia) {
         const char* Captura;
         int         Puntos;
     } constexpr CASOS[] = {
-        {"nobody recaptures", "4k3/8/8/3p4/8/8/8/3QK3 w - - 0 1", "d1d5", 100},
         {"queen for pawn, no retake", "4k3/8/4p3/3p4/8/8/8/3QK3 w - - 0 1", "d1d5", 100},
         {"queen for pawn, retaken", "4k3/8/4p3/3p4/8/8/6B1/3QK3 w - - 0 1", "d1d5", -900},
-        {"the same with colours swapped", "3qk3/6b1/8/8/3P4/4P3/8/4K3 b - - 0 1", "d8d4", -900},
-        {"knight for pawn, retaken", "4k3/8/4p3/3p4/4P3/2N5/8/4K3 w - - 0 1", "c3d5", -225},
         {"rooks through each other", "3r1k2/8/8/3r4/8/8/3R4/3R1K2 w - - 0 1", "d2d5", 0},
         {"en passant", "4k3/8/2p5/3pP3/8/8/8/4K3 w - d6 0 1", "e5d6", 0},
         {"pinned bishop stays", "4k3/8/4b3/3p4/8/8/6B1/3QRK2 w - - 0 1", "d1d5", 100},
@@ -33,9 +29,7 @@ TEST_F(Intercambio, SumaHastaLaUltimaRecapturaSinSuGanancia) {
         Jugar({caso.Captura});
         const RegistroTablero antes = TableroGlobal;
         EXPECT_EQ(See(antes.Deshacer[0].Movimiento, antes.Turno), caso.Puntos);
-        EXPECT_TRUE(std::equal(std::begin(antes.Casillas), std::end(antes.Casillas), TableroGlobal.Casillas));
-        EXPECT_EQ(TableroGlobal.PosicionReyBlanco, antes.PosicionReyBlanco);
-        EXPECT_EQ(TableroGlobal.PosicionReyNegro, antes.PosicionReyNegro);
+        EXPECT_EQ(std::memcmp(&antes, &TableroGlobal, sizeof antes), 0);
     }
 }
 
