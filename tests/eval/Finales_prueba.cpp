@@ -1,93 +1,161 @@
 #include "eval/finales/Reconocidos.h"
 
-#include <gtest/gtest.h>
+#include <array>
+#include <cstdlib>
+#include <sstream>
 
-#include <random>
-#include <string>
+#include "board/Puntuacion.h"
+#include "eval/Evaluacion.h"
+#include "eval/finales/Dificiles.h"
+#include "eval/finales/Evaluadores.h"
+#include "eval/finales/Kpk.h"
+#include "search/Buscar.h"
+#include "uci/Arranque.h"
 
-namespace {
+using Finales = Evaluacion;
 
-struct Cuentas {
-    int Peones, Caballos, Alfiles, Torres, Damas;
-};
+using Cuentas = std::array<int, 5>;  // pawns, knights, bishops, rooks, queens
 
-Cuentas Leer(const std::string& letras) {
-    Cuentas cuentas{};
-    for (const char letra : letras) {
-        cuentas.Peones += letra == 'P';
-        cuentas.Caballos += letra == 'N';
-        cuentas.Alfiles += letra == 'B';
-        cuentas.Torres += letra == 'R';
-        cuentas.Damas += letra == 'Q';
-    }
+static int Factor(const Cuentas& b, const Cuentas& n) {
+    return FinalesReconocidos(b[0], b[1], b[2], b[3], b[4], n[0], n[1], n[2], n[3], n[4]);
+}
+static Cuentas Contar(std::string_view letras) {
+    Cuentas cuentas;
+    for (std::size_t i = 0; i < 5; ++i) cuentas[i] = static_cast<int>(std::ranges::count(letras, "PNBRQ"[i]));
     return cuentas;
 }
 
-int Factor(const Cuentas& b, const Cuentas& n) {
-    return FinalesReconocidos(b.Peones, b.Caballos, b.Alfiles, b.Torres, b.Damas, n.Peones, n.Caballos, n.Alfiles,
-                              n.Torres, n.Damas);
-}
-
-}  // namespace
-
-TEST(Finales, FactorPorMaterial) {
-    struct Caso {
-        const char* unas;
-        const char* otras;
+TEST_F(Finales, FactorPorMaterial) {
+    struct {
+        const char* nombre;
         int         minimo, maximo;
+        const char* materiales;
+    } constexpr CASOS[] = {
+        {"dead draws", 0, 0, "- B-N NN- NN-B"},
+        {"real wins keep their score", 100, 100, "Q-R BN- BB- RR-R Q-N P- RP-B"},
+        {"a rule for few men only", 100, 100, "N-PPPP QRRBBNNPPPPPPPP-QRRBBNNPPPPPPPP"},
+        {"drawn as a rule", 1, 40, "RB-R R-N Q-RB Q-NN RR-RB B-P RB-RP"},
+        {"harder than the material says", 20, 99, "NN-P BP-N RP-R BB-N"},
     };
-    const Caso CASOS[] = {
-        // Dead draws.
-        {"", "", 0, 0},
-        {"B", "N", 0, 0},
-        {"NN", "", 0, 0},
-        {"NN", "B", 0, 0},
-        // Real wins keep their whole score.
-        {"Q", "R", 100, 100},
-        {"BN", "", 100, 100},
-        {"BB", "", 100, 100},
-        {"RR", "R", 100, 100},
-        {"Q", "N", 100, 100},
-        {"P", "", 100, 100},
-        {"RP", "B", 100, 100},
-        {"QRRBBNNPPPPPPPP", "QRRBBNNPPPPPPPP", 100, 100},
-        // Drawn as a rule, never forbidden to win.
-        {"RB", "R", 1, 40},
-        {"R", "N", 1, 40},
-        {"Q", "RB", 1, 40},
-        {"Q", "NN", 1, 40},
-        {"RR", "RB", 1, 40},
-        {"B", "P", 1, 40},
-        {"RB", "RP", 1, 40},
-        // Harder than the material says.
-        {"NN", "P", 20, 99},
-        {"BP", "N", 20, 99},
-        {"RP", "R", 20, 99},
-        {"BB", "N", 20, 99},
-        // The side without pawns must not be read as the better one when many pawns run.
-        {"N", "PPPP", 100, 100},
-    };
-    for (const Caso& caso : CASOS) {
-        SCOPED_TRACE(std::string(caso.unas) + " v " + caso.otras);
-        const int factor = Factor(Leer(caso.unas), Leer(caso.otras));
-        EXPECT_GE(factor, caso.minimo);
-        EXPECT_LE(factor, caso.maximo);
-    }
-}
-
-TEST(Finales, CualquierMaterialDaUnPorcentajeIgualParaLosDosColores) {
-    std::mt19937 azar(11);
-    for (int i = 0; i < 200000; ++i) {
-        const int     tope  = i % 2 == 0 ? 3 : 65;  // small endings, and boards that no game reaches
-        const auto    tirar = [&] { return static_cast<int>(azar() % static_cast<unsigned>(tope)); };
-        const Cuentas b{tirar(), tirar(), tirar(), tirar(), tirar()};
-        const Cuentas n{tirar(), tirar(), tirar(), tirar(), tirar()};
-        const int     factor = Factor(b, n);
-        ASSERT_TRUE(factor >= 0 && factor <= 100);
-        ASSERT_EQ(factor, Factor(n, b));
-        // A pawn or a heavy piece on the board can always win.
-        if (b.Peones + n.Peones + b.Torres + n.Torres + b.Damas + n.Damas > 0) {
-            ASSERT_NE(factor, 0);
+    for (const auto& caso : CASOS) {
+        std::istringstream materiales(caso.materiales);
+        for (std::string m; materiales >> m;) {
+            const Cuentas unas = Contar(m.substr(0, m.find('-'))), otras = Contar(m.substr(m.find('-')));
+            EXPECT_GE(Factor(unas, otras), caso.minimo) << caso.nombre << m;
+            EXPECT_LE(Factor(unas, otras), caso.maximo) << caso.nombre << m;
+            EXPECT_EQ(Factor(otras, unas), Factor(unas, otras)) << m;
         }
     }
+    std::mt19937 azar(11);
+    for (int i = 0; i < 20000; ++i) {  // any counts
+        Cuentas b, n;
+        for (int& cuenta : b) cuenta = static_cast<int>(azar() % (i % 2 == 0 ? 3 : 65));
+        for (int& cuenta : n) cuenta = static_cast<int>(azar() % 3);
+        ASSERT_TRUE(Factor(b, n) >= 0 && Factor(b, n) <= 100 && Factor(b, n) == Factor(n, b));
+    }
+}
+
+enum Juicio { TABLAS, POCO, VENTAJA, GANADA, NADA, OTRO };  // 0; less than a pawn; 300 to 2000; VICTORIA on; silent
+
+static Juicio Juzgar(int puntos) {
+    if (puntos == NO_RECONOCIDO) return NADA;
+    if (puntos == 0) return TABLAS;
+    if (std::abs(puntos) < 100) return POCO;
+    if (puntos >= 300 && puntos <= 2000) return VENTAJA;
+    return puntos >= VICTORIA && puntos <= VICTORIA_MAXIMA ? GANADA : OTRO;
+}
+
+// As the side sees it that fen shows as White.
+static int Puntos(const char* fen, bool reflejada = false) {
+    Fen(fen, reflejada);
+    const int puntos = EvaluarFinalesDificiles();
+    return puntos == NO_RECONOCIDO || TableroGlobal.Turno == (reflejada ? NEGRO : BLANCO) ? puntos : -puntos;
+}
+
+TEST_F(Finales, PosicionesConocidas) {
+    struct {
+        const char* nombre;
+        const char* fen;
+        Juicio      juicio;
+    } constexpr CASOS[] = {
+        {"bare queen", "8/8/8/4k3/8/8/8/KQ6 b - - 0 1", GANADA},
+        {"unlike bishops", "8/8/8/4k3/8/8/8/KBB5 w - - 0 1", GANADA},
+        {"pawn with the opposition", "4k3/8/4K3/4P3/8/8/8/8 b - - 0 1", GANADA},
+        {"wrong bishop", "k7/8/1K6/P7/8/4B3/8/8 w - - 0 1", TABLAS},
+        {"right bishop", "k7/8/1K6/P7/8/5B2/8/8 w - - 0 1", NADA},
+        {"wrong bishop, king far away", "8/8/P7/8/2K5/4B3/8/7k w - - 0 1", GANADA},
+        {"knight tied to the rook pawn", "8/Pk6/8/1N6/8/8/8/K7 w - - 0 1", TABLAS},
+        {"knight on the corner", "8/Pk6/1N6/8/8/4K3/8/8 w - - 0 1", NADA},
+        {"Philidor", "4k3/8/r7/3KP3/8/8/8/7R b - - 0 1", POCO},
+        {"back rank, knight pawn", "1k1r4/8/1P6/K7/8/8/8/6R1 w - - 0 1", POCO},
+        {"back rank, centre pawn", "3k3r/8/3PK3/8/8/8/8/6R1 w - - 0 1", NADA},
+        {"Vancura", "R7/6k1/P4r2/1K6/8/8/8/8 w - - 0 1", NADA},
+        {"Vancura, king far", "R7/6k1/P4r2/8/3K4/8/8/8 w - - 0 1", POCO},
+        {"Lucena", "1K1k4/1P6/8/8/8/8/r7/2R5 w - - 0 1", VENTAJA},
+        {"rook stops the pawn", "8/8/8/8/8/4k3/4p3/R3K3 w - - 0 1", VENTAJA},
+        {"pawn too far", "8/8/8/8/K7/6p1/5k2/1R6 b - - 0 1", POCO},
+        {"queen against b-pawn", "8/8/8/8/4K2Q/8/1p6/k7 w - - 0 1", VENTAJA},
+        {"queen against f-pawn", "1K6/8/8/8/Q7/8/5p2/6k1 w - - 0 1", POCO},
+        {"queen against c-pawn, king near", "8/8/8/8/7Q/3K4/2p5/1k6 w - - 0 1", VENTAJA},
+        {"third-rank fortress", "8/1kp5/3r4/8/3K4/8/8/7Q w - - 0 1", POCO},
+        {"king before the pawn, like bishops", "8/8/3k4/3P4/4K3/8/6B1/7b w - - 0 1", TABLAS},
+        {"opposite bishops, a pawn more", "8/3k4/8/3P4/3K4/8/6B1/b7 w - - 0 1", POCO},
+        {"queen against rook", "8/8/8/4k3/3r4/8/8/KQ6 b - - 0 1", VENTAJA},
+    };
+    for (const auto& caso : CASOS) {
+        SCOPED_TRACE(caso.nombre);
+        const int puntos = Puntos(caso.fen);
+        EXPECT_EQ(Juzgar(puntos), caso.juicio) << puntos;
+        EXPECT_EQ(Puntos(caso.fen, true), puntos);
+    }
+}
+
+TEST_F(Finales, ElGradienteLlevaAlMate) {
+    struct {
+        const char* nombre;
+        const char* peor;
+        const char* mejor;
+    } constexpr PARES[] = {
+        {"the edge", "8/8/8/4k3/8/8/8/KR6 w - - 0 1", "4k3/8/8/8/8/8/8/KR6 w - - 0 1"},
+        {"dark bishop", "k7/8/2K5/8/8/8/8/2B1N3 w - - 0 1", "7k/8/5K2/8/8/8/8/2B1N3 w - - 0 1"},
+        {"light bishop", "7k/8/5K2/8/8/8/8/3N1B2 w - - 0 1", "k7/8/2K5/8/8/8/8/3N1B2 w - - 0 1"},
+        {"out of the wrong corner", "k7/8/2K5/8/8/8/8/2B1N3 w - - 0 1", "3k4/8/2K5/8/8/8/8/2B1N3 w - - 0 1"},
+        {"a promotion pays", "4k3/8/4K3/4P3/8/8/8/8 b - - 0 1", "4k3/8/4K3/8/8/8/8/1R6 w - - 0 1"},
+    };
+    for (const auto& par : PARES) EXPECT_LT(Puntos(par.peor), Puntos(par.mejor)) << par.nombre;
+}
+
+// The total is that of the tablebases, which are asked about each position where they are at hand.
+TEST_F(Finales, GanadasDeReyYPeon) {
+    int ganadas = 0;
+    for (int i = 0; i < 2 * 64 * 64 * 64; ++i) ganadas += KpkGana(i >> 12 & 63, i >> 6 & 63, i & 63, i >> 18 == 1);
+    EXPECT_EQ(ganadas, 222564);
+}
+
+// The engine against itself; the fifty-move rule would end a game that makes no progress.
+TEST_F(Finales, ElMotorDaMateAlReySolo) {
+    struct {
+        const char* fen;
+        int         profundidad;
+    } constexpr CASOS[] = {{"8/8/8/3k4/8/8/8/KQ6 w - - 0 1", 5},
+                           {"kr6/8/8/8/4K3/8/8/8 b - - 0 1", 5},
+                           {"8/8/8/3k4/8/8/8/KBB5 w - - 0 1", 6},
+                           {"knb5/8/8/8/4K3/8/8/8 b - - 0 1", 7}};
+    Arrancar(1);
+    TipoJuego.ShowPv = SHOWPV_NONE;
+    for (const auto& caso : CASOS) {
+        Fen(caso.fen);
+        LimpiarBusqueda();
+        int puntos = 0;
+        for (int ply = 0; ply < 100; ++ply) {
+            TipoJuego.ProfundidadLimite = caso.profundidad + 1;
+            puntos                      = BuscarIterativo();
+            const std::uint32_t mov     = TipoJuego.MejorMovimiento;
+            TerminarBusqueda();
+            if (mov == 0) break;
+            HacerMovimiento(mov);
+        }
+        EXPECT_EQ(puntos, -VALOR_MATE) << caso.fen;
+    }
+    Apagar();
 }

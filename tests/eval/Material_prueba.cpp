@@ -1,107 +1,78 @@
 #include "eval/Material.h"
 
-#include "eval/PosicionPrueba.h"
+#include "eval/Evaluacion.h"
 
-namespace {
-
-struct Piezas {
-    int Peones, Caballos, Alfiles, Torres, Damas;
-};
-
-void Contar(RegistroBando& bando, const Piezas& p) {
-    bando.Peones   = p.Peones;
-    bando.Caballos = p.Caballos;
-    bando.Alfiles  = p.Alfiles;
-    bando.Torres   = p.Torres;
-    bando.Damas    = p.Damas;
+// A side's pieces in letters, "PPN" for two pawns and a knight.
+static void Contar(RegistroBando& bando, const std::string& letras) {
+    LimpiarPuntuacion(0);
+    const auto Numero = [&letras](char letra) {
+        return static_cast<int>(std::count(letras.begin(), letras.end(), letra));
+    };
+    bando.Peones   = Numero('P');
+    bando.Caballos = Numero('N');
+    bando.Alfiles  = Numero('B');
+    bando.Torres   = Numero('R');
+    bando.Damas    = Numero('Q');
 }
-
-struct CasoMaterial {
-    const char* nombre;
-    Piezas      propias;
-    Piezas      rivales;
-    Mitades     puntos;
-};
-
-constexpr CasoMaterial CASOS[] = {
-    {"full side", {8, 2, 2, 2, 1}, {8, 2, 2, 2, 1}, {4120 + 50 - 11, 4120 + 60 - 11}},
-    {"no pawns: rook gains, knight loses", {0, 1, 0, 1, 0}, {0, 0, 0, 0, 0}, {825 - 12, 825 - 12}},
-    {"eight pawns: knight gains", {8, 1, 0, 0, 0}, {}, {1125 + 24, 1125 + 24}},
-    {"two knights, four pawns", {4, 2, 0, 0, 0}, {}, {1050 - 10, 1050 - 10}},
-    {"two queens pay once for the minors", {0, 0, 0, 0, 2}, {0, 2, 1, 0, 0}, {2000 - 15, 2000 - 15}},
-    {"three bishops are one pair", {4, 0, 3, 0, 0}, {}, {1405 + 50, 1405 + 60}},
-    {"nine pawns adjust nothing", {9, 1, 0, 1, 0}, {}, {1725, 1725}},
-    {"more pawns than any table has", {60, 1, 0, 1, 0}, {}, {6825, 6825}},
-};
 
 TEST(Material, ValorYAjustes) {
-    for (const CasoMaterial& caso : CASOS) {
-        SCOPED_TRACE(caso.nombre);
-        Contar(Blancas, caso.propias);
-        Contar(Negras, caso.rivales);
-        Material_Imbalance();
-        EXPECT_EQ((Mitades{Blancas.Puntos_OP, Blancas.Puntos_EG}), caso.puntos);
-        std::swap(Blancas, Negras);
-        Material_Imbalance();
-        EXPECT_EQ((Mitades{Negras.Puntos_OP, Negras.Puntos_EG}), caso.puntos) << "mirrored";
-    }
+    struct {
+        const char* propias;
+        const char* rivales;
+        int         op, eg;
+    } constexpr CASOS[] = {
+        {"PPPPPPPPNNBBRRQ", "PPPPPPPPNNBBRRQ", 4120 + 50 - 11, 4120 + 60 - 11},
+        {"NR", "", 825 - 12, 825 - 12},  // without pawns the rook gains, the knight loses
+        {"PPPPPPPPN", "", 1125 + 24, 1125 + 24},
+        {"PPPPNN", "", 1050 - 10, 1050 - 10},
+        {"QQ", "NNB", 2000 - 15, 2000 - 15},     // two queens pay once for the minors
+        {"PPPPBBB", "", 1405 + 50, 1405 + 60},   // three bishops are one pair
+        {"PPPPPPPPPPPPPPPPNR", "", 2425, 2425},  // more pawns than any table has
+    };
+    for (const auto& caso : CASOS)
+        for (const bool reflejada : {false, true}) {
+            SCOPED_TRACE(caso.propias);
+            Contar(Propio(reflejada), caso.propias);
+            Contar(Propio(!reflejada), caso.rivales);
+            Material_Imbalance();
+            EXPECT_EQ(Propio(reflejada).Puntos_OP, caso.op);
+            EXPECT_EQ(Propio(reflejada).Puntos_EG, caso.eg);
+        }
 }
 
-struct CasoDesequilibrio {
-    const char* nombre;
-    Piezas      blancas;
-    Piezas      negras;
-    int         puntos;
-};
-
-constexpr CasoDesequilibrio DESEQUILIBRIOS[] = {
-    {"level", {8, 2, 2, 2, 1}, {8, 1, 3, 2, 1}, 0},
-    {"minor up", {0, 1, 2, 1, 0}, {0, 1, 1, 1, 0}, 45},
-    {"rook up", {0, 0, 0, 1, 0}, {0, 0, 0, 0, 0}, 60},
-    {"rook for a minor", {0, 0, 0, 2, 0}, {0, 1, 0, 1, 0}, 0},
-    {"rook for two minors", {0, 0, 0, 2, 0}, {0, 1, 1, 1, 0}, -60},
-    {"rook for three minors", {0, 0, 0, 1, 0}, {0, 2, 1, 0, 0}, 0},
-    {"queen for three minors", {0, 0, 0, 0, 1}, {0, 2, 1, 0, 0}, 0},
-    {"queen for two rooks", {0, 0, 0, 0, 1}, {0, 0, 0, 2, 0}, 0},
-    {"everything against nothing", {8, 2, 2, 2, 9}, {0, 0, 0, 0, 0}, 80},
-};
-
-TEST(Material, DesequilibrioDesdeLosDosBandos) {
-    for (const CasoDesequilibrio& caso : DESEQUILIBRIOS) {
-        SCOPED_TRACE(caso.nombre);
-        Contar(Blancas, caso.blancas);
-        Contar(Negras, caso.negras);
-        EXPECT_EQ(DesequilibrioPiezas(), caso.puntos);
-        std::swap(Blancas, Negras);
-        EXPECT_EQ(DesequilibrioPiezas(), -caso.puntos) << "mirrored";
-    }
+TEST(Material, DesequilibrioFaseYMaterialInsuficiente) {
+    struct {
+        const char* propias;
+        const char* rivales;
+        int         desequilibrio, fase;
+        bool        insuficiente;
+    } constexpr CASOS[] = {
+        {"PPPPPPPPNNBBRRQ", "PPPPPPPPNBBBRRQ", 0, 24, false},
+        {"PPPPPPPPNNBBRRQQ", "PPPPPPPPNNBBRRQ", 60, 24, false},
+        {"NBBR", "NBR", 45, 9, false},
+        {"R", "", 60, 2, false},
+        {"RR", "NR", 0, 7, false},
+        {"RR", "NBR", -60, 8, false},
+        {"R", "NNB", 0, 5, false},
+        {"Q", "NNB", 0, 7, false},
+        {"Q", "RR", 0, 8, false},
+        {"NNBBRRQQQQQQ", "", 80, 24, false},
+        {"P", "", 0, 0, false},
+        {"", "", 0, 0, true},
+        {"N", "B", 0, 2, true},
+        {"B", "", 45, 1, true},
+        {"NN", "", 45, 2, false},
+        {"NB", "", 45, 2, false},
+        {"Q", "", 60, 4, false},
+    };
+    for (const auto& caso : CASOS)
+        for (const bool reflejada : {false, true}) {
+            SCOPED_TRACE(testing::Message() << caso.propias << " v " << caso.rivales);
+            Contar(Propio(reflejada), caso.propias);
+            Contar(Propio(!reflejada), caso.rivales);
+            EXPECT_EQ(DesequilibrioPiezas(), reflejada ? -caso.desequilibrio : caso.desequilibrio);
+            EXPECT_EQ(CalcularFase(), caso.fase);
+            EXPECT_EQ(Material_Insuficiente(), caso.insuficiente);
+            EXPECT_EQ(SoloReyes(), *caso.propias == '\0');
+        }
 }
-
-struct CasoFase {
-    Piezas blancas;
-    Piezas negras;
-    int    fase;
-    bool   insuficiente;
-};
-
-constexpr CasoFase FASES[] = {
-    {{8, 2, 2, 2, 1}, {8, 2, 2, 2, 1}, 24, false}, {{8, 2, 2, 2, 2}, {8, 2, 2, 2, 1}, 24, false},
-    {{8, 1, 2, 2, 1}, {8, 2, 2, 2, 1}, 23, false}, {{5, 0, 0, 1, 1}, {5, 1, 0, 1, 0}, 9, false},
-    {{1, 0, 0, 0, 0}, {0, 0, 0, 0, 0}, 0, false},  {{0, 0, 0, 0, 0}, {0, 0, 0, 0, 0}, 0, true},
-    {{0, 1, 0, 0, 0}, {0, 0, 1, 0, 0}, 2, true},   {{0, 0, 1, 0, 0}, {0, 0, 0, 0, 0}, 1, true},
-    {{0, 2, 0, 0, 0}, {0, 0, 0, 0, 0}, 2, false},  {{0, 1, 1, 0, 0}, {0, 0, 0, 0, 0}, 2, false},
-    {{0, 0, 0, 1, 0}, {0, 0, 0, 0, 0}, 2, false},  {{0, 0, 0, 0, 0}, {0, 0, 0, 0, 1}, 4, false},
-};
-
-TEST(Material, FaseYMaterialInsuficiente) {
-    for (const CasoFase& caso : FASES) {
-        SCOPED_TRACE(&caso - FASES);
-        Contar(Blancas, caso.blancas);
-        Contar(Negras, caso.negras);
-        EXPECT_EQ(CalcularFase(), caso.fase);
-        EXPECT_EQ(Material_Insuficiente(), caso.insuficiente);
-        EXPECT_EQ(SoloReyes(), caso.insuficiente && caso.fase == 0);
-    }
-}
-
-}  // namespace
