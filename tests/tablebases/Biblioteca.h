@@ -2,16 +2,14 @@
 #pragma once
 
 #include <dlfcn.h>
-#include <gtest/gtest.h>
 
 #include <filesystem>
 #include <optional>
 #include <string>
 
-#include "board/Bando.h"
-#include "board/EstadoMotor.h"
 #include "board/Fen.h"
-#include "board/Tablero.h"
+#include "board/Puntuacion.h"
+#include "comun/Tablero.h"
 #include "tablebases/Gaviota.h"
 
 static const std::string BIBLIOTECA_REAL = GAVIOTA_REAL "/biblioteca/libgaviotatb.so.1";
@@ -32,10 +30,7 @@ struct BibliotecaPuesta {
 // One "isready" with the option on or off; returns what it prints.
 inline std::string Actualizar(int usar) {
     tbprobe_Gaviota.Usar = usar;
-    testing::internal::CaptureStdout();
-    ActualizarGaviota();
-    std::fflush(stdout);
-    return testing::internal::GetCapturedStdout();
+    return Capturar(ActualizarGaviota);
 }
 
 // Unloads and loads again with these options; returns what the loading prints.
@@ -47,13 +42,16 @@ inline std::string Recargar(const std::string& ruta, int compresion = 4, int cac
     return Actualizar(1);
 }
 
-// The score of the position, nothing when it is not answered.
-inline std::optional<int> Sondear(const char* fen, int profundidad = 0, int ply = 1, int iteracion = 1) {
+// The score of the position on the board, nothing when it is not answered.
+inline std::optional<int> SondearActual(int profundidad = 0) {
+    int puntos = 0;
+    return Probar_gtbgaviota(profundidad, &puntos) == 1 ? std::optional(puntos) : std::nullopt;
+}
+
+inline std::optional<int> Sondear(const std::string& fen, int profundidad = 0, int ply = 1, int iteracion = 1) {
     LimpiarPuntuacion(1);
-    EXPECT_EQ(CargarFen(fen), 1);
+    EXPECT_EQ(CargarFen(fen.c_str()), 1);
     TableroGlobal.Ply           = ply;
     TipoJuego.ProfundidadActual = iteracion;
-    int       puntos            = 0;
-    const int responde          = Probar_gtbgaviota(profundidad, &puntos);
-    return responde == 1 ? std::optional(puntos) : std::nullopt;
+    return SondearActual(profundidad);
 }

@@ -4,7 +4,7 @@
 struct DobleGaviota {
     char        Registro[4096];  // the calls in order, "name(arguments) "
     const char* Mensaje;         // answer of tb_init
-    int         Iniciada;        // answer of tb_is_initialized and tbcache_is_on
+    unsigned    Iniciada;        // answer of tb_is_initialized and tbcache_is_on
     unsigned    Disponibilidad;
     int         Responde;  // answer of a probe
     unsigned    Resultado;

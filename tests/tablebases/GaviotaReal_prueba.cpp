@@ -5,34 +5,27 @@
 #include <random>
 #include <sstream>
 
+#include "board/Ataques.h"
+#include "board/Geometria.h"
+#include "eval/finales/Kpk.h"
 #include "tablebases/Biblioteca.h"
 
 namespace fs = std::filesystem;
 
 static const std::string SIN_TABLAS = "No 3-pc TBs available\nNo 4-pc TBs available\nNo 5-pc TBs available\n";
 static const std::string TRES = "3-pc TBs available\n3-pc TBs complete\nNo 4-pc TBs available\nNo 5-pc TBs available\n";
+static const std::string ILEGIBLE = "info string Error: Tabla de finales gaviota ilegible: ";
 static const std::string ESTADO   = "Initialized: Ok\n\nState cache: Ok\n\n";
 constexpr char           KQK[]    = "7k/8/6K1/8/8/8/8/1Q6 w - - 0 1";
 constexpr int            MATE_KQK = 31998;  // in one ply: Qb8
 
-static const std::string ILEGIBLE = "info string Error: Tabla de finales gaviota ilegible: ";
-
-// The table without its last block: head, index and size agree.
-static std::string QuitarBloque(std::string tabla) {
-    auto* const         palabras = reinterpret_cast<std::uint32_t*>(tabla.data());
-    const std::uint32_t fin      = palabras[8] / 4;  // of the index, which begins behind ten words
-    tabla.resize(palabras[fin - 2]);
-    for (std::uint32_t i = 10; i < fin; ++i) palabras[i] -= 4;
-    palabras[8] -= 4;
-    return tabla.erase(4 * (fin - 1), 4);
-}
-
-struct Real : testing::Test {
+struct Real : Tablero {
     BibliotecaPuesta Biblioteca{BIBLIOTECA_REAL};
     fs::path         Carpeta = testing::TempDir() + "/tamrek_tablas_" + std::to_string(getpid());
 
     void SetUp() override {
         if (Biblioteca.Mango == nullptr) GTEST_SKIP() << SIN_PAQUETES;
+        Tablero::SetUp();
         fs::create_directory(Carpeta);
         IniciarOpcionesGaviota();
     }
@@ -56,13 +49,11 @@ static std::string Informe(const std::string& ruta, int compresion) {
 }
 
 TEST_F(Real, CadaEsquemaYCadaCache) {
-    for (int compresion = 1; compresion <= 4; ++compresion)
-        for (const int cache : {0, 1, 32, 1014}) {
-            SCOPED_TRACE(testing::Message() << compresion << " " << cache);
-            const std::string ruta = TABLAS_REALES + std::to_string(compresion);
-            EXPECT_EQ(Recargar(ruta, compresion, cache), Informe(ruta, compresion) + ESTADO + TRES);
-            EXPECT_EQ(Sondear(KQK), MATE_KQK);
-        }
+    for (const auto& [compresion, cache] : {std::pair{1, 0}, {2, 1}, {3, 32}, {4, 1014}}) {
+        const std::string ruta = TABLAS_REALES + std::to_string(compresion);
+        EXPECT_EQ(Recargar(ruta, compresion, cache), Informe(ruta, compresion) + ESTADO + TRES);
+        EXPECT_EQ(Sondear(KQK), MATE_KQK) << compresion;
+    }
     for (const int compresion : {0, 5, 9}) {
         EXPECT_TRUE(Recargar(TABLAS_REALES + "4", compresion).ends_with(ESTADO + SIN_TABLAS));
         EXPECT_EQ(Sondear(KQK), std::nullopt);
@@ -73,26 +64,32 @@ TEST_F(Real, Carpetas) {
     const std::string larga = CopiarTablas(std::string(200, 'a')).string() + "/";
     const fs::path    hasta = larga + std::string(RUTA_MAX - larga.size(), 'b');
     fs::rename(CopiarTablas("c"), hasta);
-    ASSERT_EQ(hasta.string().size(), static_cast<std::size_t>(RUTA_MAX));
     for (const std::string& ruta : {hasta.string(), CopiarTablas("dos  blancos \361\303\261 %s").string()}) {
-        SCOPED_TRACE(ruta);
         EXPECT_EQ(Recargar(ruta), Informe(ruta, 4) + ESTADO + TRES);
-        EXPECT_EQ(Sondear(KQK), MATE_KQK);
+        EXPECT_EQ(Sondear(KQK), MATE_KQK) << ruta;
     }
-
     fs::create_directory(Carpeta / "vacia");
     const fs::path cerrada = CopiarTablas("cerrada");
     fs::permissions(cerrada, fs::perms::none);
     const bool administrador = geteuid() == 0 && seteuid(65534) == 0;  // who may read everything
     for (const std::string& ruta : {std::string("empty"), (Carpeta / "vacia").string(), cerrada.string(),
                                     TABLAS_REALES + "4/kqk.gtb.cp4", std::string(RUTA_MAX, 'x')}) {
-        SCOPED_TRACE(ruta);
         EXPECT_TRUE(
             Recargar(ruta).ends_with(ESTADO + SIN_TABLAS + (ruta == cerrada ? ILEGIBLE + "kpk.gtb.cp4\n" : "")));
-        EXPECT_EQ(Sondear(KQK), std::nullopt);
+        EXPECT_EQ(Sondear(KQK), std::nullopt) << ruta;
     }
     EXPECT_EQ(administrador ? seteuid(0) : 0, 0);
     fs::permissions(cerrada, fs::perms::owner_all);
+}
+
+// The table without its last block: head, index and size agree.
+static std::string QuitarBloque(std::string tabla) {
+    auto* const         palabras = reinterpret_cast<std::uint32_t*>(tabla.data());
+    const std::uint32_t fin      = palabras[8] / 4;  // of the index, which begins behind ten words
+    tabla.resize(palabras[fin - 2]);
+    for (std::uint32_t i = 10; i < fin; ++i) palabras[i] -= 4;
+    palabras[8] -= 4;
+    return tabla.erase(4 * (fin - 1), 4);
 }
 
 // Only what the engine can see at the head of a file is refused; a damaged block must at least do no harm.
@@ -113,33 +110,54 @@ TEST_F(Real, TablasDanadas) {
         {"a block missing", QuitarBloque},
         {"all ones", [](std::string o) { return std::string(o.size(), '\377'); }},
     };
-    for (int compresion = 1; compresion <= 4; ++compresion)
-        for (const auto& dano : danos) {
-            SCOPED_TRACE(testing::Message() << compresion << " " << dano.nombre);
-            const std::string  nombre = "kqk.gtb.cp" + std::to_string(compresion);
-            const fs::path     ruta   = CopiarTablas("d", compresion);
-            std::ostringstream sana;
-            sana << std::ifstream(ruta / nombre, std::ios::binary).rdbuf();
-            std::ofstream(ruta / nombre, std::ios::binary) << dano.danar(sana.str());
-            EXPECT_TRUE(Recargar("/nowhere/;" + ruta.string(), compresion).ends_with(TRES + ILEGIBLE + nombre + "\n"));
-            EXPECT_EQ(Sondear(KQK), std::nullopt);
-        }
+    for (const auto& dano : danos) {
+        const fs::path     ruta = CopiarTablas("d");
+        std::ostringstream sana;
+        sana << std::ifstream(ruta / "kqk.gtb.cp4", std::ios::binary).rdbuf();
+        std::ofstream(ruta / "kqk.gtb.cp4", std::ios::binary) << dano.danar(sana.str());
+        EXPECT_TRUE(Recargar("/nowhere/;" + ruta.string()).ends_with(TRES + ILEGIBLE + "kqk.gtb.cp4\n")) << dano.nombre;
+        EXPECT_EQ(Sondear(KQK), std::nullopt) << dano.nombre;
+    }
     std::mt19937 azar(1);
     for (int vez = 0; vez < 30; ++vez) {
-        const int      compresion = 2 + vez % 3;
-        const fs::path ruta       = CopiarTablas("d", compresion);
-        for (const char* pieza : {"p", "q", "r"}) {
-            const fs::path fichero = ruta / ("k" + std::string(pieza) + "k.gtb.cp" + std::to_string(compresion));
-            std::fstream   tabla(fichero, std::ios::in | std::ios::out | std::ios::binary);
+        const fs::path ruta = CopiarTablas("d", 2 + vez % 3);
+        for (const auto& fichero : fs::directory_iterator(ruta)) {
+            std::fstream tabla(fichero.path(), std::ios::in | std::ios::out | std::ios::binary);
             for (int i = 0; i < 20; ++i) {
-                tabla.seekp(static_cast<long>(92 + azar() % (fs::file_size(fichero) - 92)));
+                tabla.seekp(static_cast<long>(92 + azar() % (fichero.file_size() - 92)));
                 tabla.put(static_cast<char>(azar()));
             }
         }
-        EXPECT_TRUE(Recargar(ruta, compresion).ends_with(TRES));
-        for (int i = 0; i < 18; ++i)
-            Sondear(("8/8/8/8/8/1k6/" + std::to_string(1 + i % 6) + "PQR"[i / 6] + std::to_string(6 - i % 6) +
-                     "/K7 b - - 0 1")
-                        .c_str());
+        EXPECT_TRUE(Recargar(ruta, 2 + vez % 3).ends_with(TRES));
+        for (const char* fila : {"1P6", "6P1", "1Q6", "6Q1", "3R4", "R7"})
+            Sondear(std::string("8/8/8/8/8/1k6/") + fila + "/K7 b - - 0 1");
     }
+}
+
+// Every position of king and pawn against king, the pawn White's and Black's: squares, side to move and result, and
+// beside them the evaluation's own knowledge of this ending.
+TEST_F(Real, ReyYPeonComoElEvaluador) {
+    IniciarKpk();
+    Recargar(TABLAS_REALES + "4");
+    int diferencias = 0;
+    for (const bool reflejada : {false, true}) {
+        Fen("8/8/8/8/P7/1k6/8/K7 w - - 0 1", reflejada);  // sets the piece counters
+        TableroGlobal.Ply           = 1;
+        TipoJuego.ProfundidadActual = 1;
+        int* const t                = TableroGlobal.Casillas;
+        for (int i = 0; i < 2 * 64 * 64 * 64; ++i) {
+            const int mueve = i >> 18, rey = i >> 12 & 63, peon = i >> 6 & 63, solo = i & 63;
+            if (peon < 8 || peon > 55 || rey == peon || solo == peon || DistanciaRey(rey, solo) < 2) continue;
+            std::fill_n(t, 64, static_cast<int>(VACIO));
+            const int espejo = reflejada ? 56 : 0, desfase = reflejada ? DESFASE_NEGRO : 0;
+            t[rey ^ espejo]     = REY_B + desfase;
+            t[peon ^ espejo]    = PEON_B + desfase;
+            t[solo ^ espejo]    = REY_N - desfase;
+            TableroGlobal.Turno = reflejada ? 1 - mueve : mueve;
+            if (mueve == 1 && (reflejada ? AmenazadoPorPeonNegro : AmenazadoPorPeonBlanco)(solo ^ espejo)) continue;
+            const int puntos = SondearActual().value_or(1) * (mueve == 1 ? 1 : -1);
+            diferencias += KpkGana(rey, peon, solo, mueve == 1) == 1 ? puntos <= UMBRAL_MATE : puntos != 0;
+        }
+    }
+    EXPECT_EQ(diferencias, 0);
 }

@@ -33,25 +33,26 @@ static int Sondear(const std::string& entrada = "") {
 }
 
 TEST(ComprobarTiempo, ParaConTodasLasCondiciones) {
+    struct {
+        const char*   nombre;
+        std::uint64_t nodos, asignado;
+        int           iteracion, salir, para;
+        std::uint32_t linea;
+    } constexpr CASOS[] = {{"time is over", 2048, 500, 2, 0, 1, 1},
+                           {"between polls", 2049, 500, 2, 0, 0, 1},
+                           {"first iteration, however long it takes", 1U << 31, 500, 1, 0, 0, 1},
+                           {"no move yet", 4096, 500, 2, 0, 0, 0},
+                           {"negative budget", 4096, 0ULL - 150, 2, 0, 0, 1},
+                           {"internal inconsistency", 4096, 0ULL - 150, 2, 1, 1, 1}};
     PrepararBusqueda();
-    EXPECT_EQ(Sondear(), 1);
-    TipoJuego.Nodos = 2049;
-    EXPECT_EQ(Sondear(), 0) << "between polls";
-    TipoJuego.Nodos             = 4096;
-    TipoJuego.ProfundidadActual = 1;
-    EXPECT_EQ(Sondear(), 0) << "first iteration";
-    TipoJuego.Nodos = 1U << 31;
-    EXPECT_EQ(Sondear(), 0) << "first iteration, however long it takes";
-    EXPECT_EQ(Sondear("stop\n"), 1);
-    TipoJuego.Nodos             = 4096;
-    TipoJuego.ProfundidadActual = 2;
-    pv_line_fin[0]              = 0;
-    EXPECT_EQ(Sondear(), 0) << "no move yet";
-    pv_line_fin[0]           = 1;
-    TipoJuego.TiempoAsignado = std::uint64_t{0} - 150;
-    EXPECT_EQ(Sondear(), 0) << "negative budget";
-    Salir = 1;
-    EXPECT_EQ(Sondear(), 1) << "internal inconsistency";
+    for (const auto& caso : CASOS) {
+        TipoJuego.Nodos             = caso.nodos;
+        TipoJuego.TiempoAsignado    = caso.asignado;
+        TipoJuego.ProfundidadActual = caso.iteracion;
+        Salir                       = caso.salir;
+        pv_line_fin[0]              = caso.linea;
+        EXPECT_EQ(Sondear(), caso.para) << caso.nombre;
+    }
 }
 
 TEST(ComprobarTiempo, SoloStopParaYCadaSondeoConsumeUnaLinea) {

@@ -3,7 +3,7 @@
 
 #include <chrono>
 
-#include "uci/Motor.h"
+#include "comun/Motor.h"
 
 // An open position that no search exhausts within a test's time.
 static const std::string LARGA = "position fen r3k2r/1p2b2p/pqbppnp1/8/4P1B1/2N5/PPP3PP/R1BQ1RK1 w kq - 2 14\n";
@@ -31,34 +31,23 @@ TEST(Sondeo, SinLectorTermina) {
     }
 }
 
-struct CasoTiempo {
-    const char* texto;
-    int         minimo;  // milliseconds
-    int         maximo;  // generous: sanitizers on a busy machine
-};
-
 TEST(Sondeo, ElPresupuestoSeGasta) {
-    const CasoTiempo casos[] = {
-        {"go movetime 650\nSTOP\nstop \nstop", 395, 6000},
-        {"\ngo wtime 5000 btime 5000\n", 495, 6000},
-        {"go depth 1\n", 0, 6000},
-    };
     Motor motor;
     motor.Enviar(LARGA);
-    for (const CasoTiempo& caso : casos) {
-        SCOPED_TRACE(caso.texto);
+    for (const auto& [texto, minimo] : {std::pair{"go movetime 650\nSTOP\nstop \nstop", 395},
+                                        {"\ngo wtime 5000 btime 5000\n", 495},
+                                        {"go depth 1\n", 0}}) {
+        SCOPED_TRACE(texto);
         const auto inicio = std::chrono::steady_clock::now();
-        motor.Enviar(caso.texto);
+        motor.Enviar(texto);
         EXPECT_TRUE(TieneForma(motor.LeerHasta("bestmove"), RESPUESTA));
         const auto pasado = std::chrono::steady_clock::now() - inicio;
-        EXPECT_GE(pasado, std::chrono::milliseconds(caso.minimo));
-        EXPECT_LE(pasado, std::chrono::milliseconds(caso.maximo));
+        EXPECT_GE(pasado, std::chrono::milliseconds(minimo));
+        EXPECT_LE(pasado, std::chrono::milliseconds(6000)) << "generous: sanitizers on a busy machine";
     }
 }
 
-TEST(Sondeo, RespuestasSinBusqueda) {
-    EXPECT_TRUE(Dialogar("position fen R5k1/5ppp/8/8/8/8/8/6K1 b - - 0 1\ngo depth 3\n").ends_with("bestmove 0000\n"));
-    EXPECT_TRUE(
-        Dialogar("position fen 7k/5Q2/6K1/8/8/8/8/8 b - - 0 1\ngo movetime 300\n").ends_with("bestmove 0000\n"));
+TEST(Sondeo, SinJugadasOSinIteraciones) {
     EXPECT_EQ(Dialogar("position fen 8/8/8/8/8/8/7r/K6k w - - 0 1\ngo depth 0\n"), "bestmove a1b1\n");
+    EXPECT_TRUE(Dialogar("position fen R5k1/5ppp/8/8/8/8/8/6K1 b - - 0 1\ngo depth 3\n").ends_with("bestmove 0000\n"));
 }

@@ -3,6 +3,7 @@
 
 #include <poll.h>
 #include <regex.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -15,7 +16,8 @@
 
 class Motor {
 public:
-    explicit Motor(std::vector<std::string> argumentos = {}) {
+    // descriptores: how many the program may have open, 0 = as many as this one.
+    explicit Motor(std::vector<std::string> argumentos = {}, unsigned descriptores = 0) {
         std::signal(SIGPIPE, SIG_IGN);
         char plantilla[] = "/tmp/tamrek_prueba_XXXXXX";
         Carpeta          = mkdtemp(plantilla);
@@ -31,6 +33,8 @@ public:
             dup2(entrada[0], STDIN_FILENO);
             dup2(salida[1], STDOUT_FILENO);
             for (const int extremo : {entrada[0], entrada[1], salida[0], salida[1]}) close(extremo);
+            const rlimit limite{descriptores, descriptores};
+            if (descriptores != 0) setrlimit(RLIMIT_NOFILE, &limite);
             if (chdir(Carpeta.c_str()) == 0) execv(argv[0], argv.data());
             _exit(127);
         }
