@@ -129,10 +129,12 @@ Mitades<Numero> MitadesDe(int color, const RegistroBando& bando) {
     const int    refugio = sumado(Acumulador::Refugio_OP);
     const Numero escudo =
         std::is_same_v<Numero, int> ? static_cast<Numero>(refugio >> 1) : parte(refugio, PESO_REFUGIO);
-    return {static_cast<Numero>(sumado(Acumulador::Puntos_OP) + sumado(Acumulador::Movilidad_OP) + ataque) +
-                parte(sumado(Acumulador::Tropismo_OP), PESO_TROPISMO) + escudo,
-            static_cast<Numero>(sumado(Acumulador::Puntos_EG) + sumado(Acumulador::Movilidad_EG) + ataque) +
-                parte(sumado(Acumulador::Tropismo_EG), PESO_TROPISMO)};
+    const Par peligro = PuntosPeligro(sumado(Acumulador::Peligro));
+    return {
+        static_cast<Numero>(sumado(Acumulador::Puntos_OP) + sumado(Acumulador::Movilidad_OP) + ataque + peligro.OP) +
+            parte(sumado(Acumulador::Tropismo_OP), PESO_TROPISMO) + escudo,
+        static_cast<Numero>(sumado(Acumulador::Puntos_EG) + sumado(Acumulador::Movilidad_EG) + ataque + peligro.EG) +
+            parte(sumado(Acumulador::Tropismo_EG), PESO_TROPISMO)};
 }
 
 struct Rearmado {
@@ -162,6 +164,14 @@ double PendienteAtaque(int color) {
     return static_cast<double>(KING_ATTACK_MULTI[arriba] - KING_ATTACK_MULTI[abajo]) / (arriba - abajo);
 }
 
+// Centipawns for one unit of Peligro.
+double PendientePeligro(int color, double apertura) {
+    const int peligro = Sumado(color, Acumulador::Peligro);
+    const Par abajo   = PuntosPeligro(peligro - ANCHO_PENDIENTE);
+    const Par arriba  = PuntosPeligro(peligro + ANCHO_PENDIENTE);
+    return ((arriba.OP - abajo.OP) * apertura + (arriba.EG - abajo.EG) * (1 - apertura)) / (2 * ANCHO_PENDIENTE);
+}
+
 // Centipawns of the score before the ending's factor, for one unit in the accumulator of a colour, its own view.
 double Pendiente(Acumulador acumulador, int color) {
     const double apertura = static_cast<double>(TableroGlobal.Fase) / FASE_MAX;
@@ -180,6 +190,8 @@ double Pendiente(Acumulador acumulador, int color) {
             return apertura * PESO_REFUGIO / 100;
         case Acumulador::Ataque_Valor:
             return PendienteAtaque(color);
+        case Acumulador::Peligro:
+            return PendientePeligro(color, apertura);
         case Acumulador::Factor:
             break;
     }

@@ -24,6 +24,8 @@ struct RegistroBando {
     int Ataque_Valor;   // summed weight of the attacks on the enemy king zone
     int Ataque_Numero;  // pieces of the side that attack the enemy king zone
 
+    int Peligro;  // how much the enemy king is in danger; its square counts
+
     int Peones_Septima;  // own pawns on the side's seventh rank
 
     // Sets of squares, bit n for square n. Nobody asks how often a square is in them.

@@ -48,6 +48,41 @@ static void EvaluarAvances() {
     Sumar<C>(PESOS.AVANCE_A_PIEZA, Cuantas(AtaquesDePeones<C>(seguros) & piezas));
 }
 
+// The enemy queen with one piece between her and a rook or bishop: the piece is tied to its place, or leaves it with a
+// blow. A pawn of the side's own would have to be taken first, so it does not count.
+template <int C>
+static void EvaluarDamasTrasPieza() {
+    const ConjuntosBando& propios = Conjuntos[C];
+    const Conjunto        quitar  = Ocupadas & ~propios.Peones;
+    for (Conjunto damas = Conjuntos[RIVAL<C>].Damas; damas != 0;) {
+        const int      dama       = SacarCasilla(damas);
+        const Conjunto rectas     = AtaquesRectos(dama, Ocupadas);
+        const Conjunto diagonales = AtaquesDiagonales(dama, Ocupadas);
+        Sumar<C>(
+            PESOS.DAMA_TRAS_PIEZA,
+            Cuantas(AtaquesRectos(dama, Ocupadas ^ (rectas & quitar)) & ~rectas & propios.Torres) +
+                Cuantas(AtaquesDiagonales(dama, Ocupadas ^ (diagonales & quitar)) & ~diagonales & propios.Alfiles));
+    }
+}
+
+// Attacks on what no pawn guards, or nothing, and the own pieces that nothing guards.
+template <int C>
+static void EvaluarDesprotegidas() {
+    const ConjuntosBando& propios  = Conjuntos[C];
+    const ConjuntosBando& rival    = Conjuntos[RIVAL<C>];
+    const Conjunto        menores  = propios.Ataque_Caballos | propios.Ataque_Alfiles;
+    const Conjunto        sin_peon = ~rival.Ataque_Peones;
+    const Conjunto        sin_nada = ~ConUnoOMas(rival.Ataques);
+    const Conjunto        presas   = rival.Caballos | rival.Alfiles;
+    Sumar<C>(PESOS.TORRE_A_MENOR, Cuantas(propios.Ataque_Torres & presas & sin_peon));
+    Sumar<C>(PESOS.MENOR_A_MENOR, Cuantas(menores & presas & sin_peon));
+    Sumar<C>(PESOS.PIEZA_A_PEON, Cuantas((menores | propios.Ataque_Torres) & rival.Peones & sin_peon));
+    Sumar<C>(PESOS.REY_A_PEON, Cuantas(propios.Ataque_Rey & rival.Peones & sin_nada));
+    Sumar<C>(PESOS.REY_A_PIEZA, Cuantas(propios.Ataque_Rey & (presas | rival.Torres) & sin_nada));
+    Sumar<C>(PESOS.PENALIZACION_PIEZA_SUELTA,
+             -Cuantas((propios.Todas ^ propios.Peones ^ propios.Rey) & ~ConUnoOMas(propios.Ataques)));
+}
+
 template <int C>
 static void EvaluarAmenazasDe() {
     const ConjuntosBando& propios = Conjuntos[C];
@@ -62,6 +97,8 @@ static void EvaluarAmenazasDe() {
     EvaluarAsediadas<C>();
     EvaluarAvances<C>();
     EvaluarColgadas<C>();
+    EvaluarDesprotegidas<C>();
+    EvaluarDamasTrasPieza<C>();
 }
 
 void EvaluarAmenazas() {

@@ -54,8 +54,9 @@ static void SumarEscalados() {
     const int      ataque = PuntosAtaque(bando, AJUSTE_ATT[C]);
     bando.Puntos_OP += Porcentaje(bando.Movilidad_OP, AJUSTE_MOB[C]) + Porcentaje(bando.Tropismo_OP, PESO_TROPISMO);
     bando.Puntos_EG += Porcentaje(bando.Movilidad_EG, AJUSTE_MOB[C]) + Porcentaje(bando.Tropismo_EG, PESO_TROPISMO);
-    bando.Puntos_OP += ataque;
-    bando.Puntos_EG += ataque;
+    const Par peligro = PuntosPeligro(bando.Peligro);
+    bando.Puntos_OP += ataque + peligro.OP;
+    bando.Puntos_EG += ataque + peligro.EG;
 }
 
 static void SumarTurno() {
@@ -88,7 +89,8 @@ int Evaluar() {
     TableroGlobal.Fase = CalcularFase();
 
     EntradaCache* const entrada = EntradaDeCache();
-    if (entrada != nullptr && entrada->Key == TableroGlobal.Key) return DesdeTurno(DesempaquetarPuntos(entrada->Puntos));
+    if (entrada != nullptr && entrada->Key == TableroGlobal.Key)
+        return DesdeTurno(DesempaquetarPuntos(entrada->Puntos));
 
     EvaluarApertura();
     EvaluarPiezasTableroJuego();  // before the endings, which use the attacks that it finds
@@ -101,6 +103,7 @@ int Evaluar() {
     EvaluarTorreB();
     EvaluarTorreN();
     EvaluarReyes();
+    EvaluarApoyoPasados();
     EvaluarAmenazas();
     SumarEscalados<BLANCO>();
     SumarEscalados<NEGRO>();

@@ -18,6 +18,7 @@ enum class Acumulador : int {
     Tropismo_OP,
     Tropismo_EG,
     Ataque_Valor,
+    Peligro,     // of its sum the square counts, see PuntosPeligro
     Refugio_OP,  // of its sum a half, rounded down, goes to Puntos_OP
     Factor,      // percentage of a recognised ending; belongs to no side, and the last one counts
 };
@@ -41,7 +42,7 @@ inline void Acumular(const int& peso, int veces) {
     constexpr int RegistroBando::*CAMPOS[] = {&RegistroBando::Puntos_OP,    &RegistroBando::Puntos_EG,
                                               &RegistroBando::Movilidad_OP, &RegistroBando::Movilidad_EG,
                                               &RegistroBando::Tropismo_OP,  &RegistroBando::Tropismo_EG,
-                                              &RegistroBando::Ataque_Valor};
+                                              &RegistroBando::Ataque_Valor, &RegistroBando::Peligro};
     BandoDe<C>().*CAMPOS[static_cast<int>(A)] += peso * veces;
     Trazar(peso, veces, C, A);
 }
@@ -84,6 +85,10 @@ template <int C>
 inline void SumarTropismo(const Par& peso, int cercania) {
     Acumular<C, Acumulador::Tropismo_OP>(peso.OP, cercania);
     Acumular<C, Acumulador::Tropismo_EG>(peso.EG, cercania);
+}
+template <int C>
+inline void SumarPeligro(const int& peso, int veces = 1) {
+    Acumular<C, Acumulador::Peligro>(peso, veces);
 }
 template <int C>
 inline void SumarAtaque(const int& peso, int veces) {

@@ -78,9 +78,14 @@ static constexpr PesosPuesto PUESTO_ALFIL = {PESOS.PUESTO_ALFIL_OP, PESOS.PUESTO
                                              PESOS.PUESTO_ALFIL_SEGURO_EG};
 
 template <int C>
+static Conjunto CasillasDePuesto() {
+    return Filas<C>(3, 6) & Conjuntos[C].Ataque_Peones & ~Conjuntos[RIVAL<C>].Alcance_Peon;
+}
+
+template <int C>
 static void EvaluarPuestosAvanzados(Conjunto piezas, const PesosPuesto& pesos) {
     const ConjuntosBando& rival     = Conjuntos[RIVAL<C>];
-    Conjunto              avanzadas = piezas & Filas<C>(3, 6) & Conjuntos[C].Ataque_Peones & ~rival.Alcance_Peon;
+    Conjunto              avanzadas = piezas & CasillasDePuesto<C>();
     while (avanzadas != 0) {
         const int      casilla = SacarCasilla(avanzadas);
         const int      fila    = 6 - FilaRelativa<C>(casilla);
@@ -154,6 +159,10 @@ static void EvaluarCaballos() {
         return ATAQUES_CABALLO[static_cast<std::size_t>(casilla)];
     });
     EvaluarPuestosAvanzados<C>(propios.Caballos, PUESTO_CABALLO);
+    if ((propios.Ataque_Caballos & CasillasDePuesto<C>() & ~propios.Todas) != 0)
+        Sumar<C>(PESOS.BONUS_CABALLO_HACIA_PUESTO);
+    for (Conjunto caballos = propios.Caballos; caballos != 0;)
+        Sumar<C>(PESOS.PENALIZACION_CABALLO_LEJOS, -DistanciaRey(SacarCasilla(caballos), PosicionReyDe<C>()));
     if ((propios.Caballos & ENCERRADOS) != 0) EvaluarEncierros<C>(ENCIERROS_CABALLO, propios.Caballos);
 }
 
@@ -170,6 +179,23 @@ static void EvaluarAlfilesMalos() {
     Sumar<C>(PESOS.PENALIZACION_ALFIL_MALO_BLOQUEO, -peones * bloqueados);
 }
 
+// Bishops and the pawns on their lines, the distance to their king, and the pair of them.
+template <int C>
+static void EvaluarLineasDeAlfiles() {
+    constexpr Conjunto    CENTRO  = Bit(En<C>("d4")) | Bit(En<C>("e4")) | Bit(En<C>("d5")) | Bit(En<C>("e5"));
+    const ConjuntosBando& propios = Conjuntos[C];
+    const Conjunto        peones  = propios.Peones | Conjuntos[RIVAL<C>].Peones;
+    for (Conjunto alfiles = propios.Alfiles; alfiles != 0;) {
+        const int alfil = SacarCasilla(alfiles);
+        if (Cuantas(AtaquesDiagonales(alfil, peones) & CENTRO) > 1) Sumar<C>(PESOS.BONUS_ALFIL_DIAGONAL_LARGA);
+        Sumar<C>(PESOS.PENALIZACION_ALFIL_RAYOS_X, -Cuantas(AtaquesDiagonales(alfil, 0) & Conjuntos[RIVAL<C>].Peones));
+        Sumar<C>(PESOS.PENALIZACION_ALFIL_LEJOS, -DistanciaRey(alfil, PosicionReyDe<C>()));
+    }
+    if (Cuantas(propios.Alfiles) < 2) return;
+    Sumar<C>(PESOS.BONUS_PAREJA_ABIERTA);
+    Sumar<C>(PESOS.BONUS_PAREJA_PEON, Cuantas(peones));
+}
+
 template <int C>
 static void EvaluarAlfiles() {
     constexpr Conjunto ENCERRADOS = CasillasDeEncierro<C>(ENCIERROS_ALFIL);
@@ -178,6 +204,7 @@ static void EvaluarAlfiles() {
     propios.Ataque_Alfiles =
         SumarPiezas<C>(propios.Alfiles, RASGOS_ALFIL, [](int casilla) { return AtaquesDiagonales(casilla, Ocupadas); });
     EvaluarAlfilesMalos<C>();
+    EvaluarLineasDeAlfiles<C>();
     EvaluarPuestosAvanzados<C>(propios.Alfiles, PUESTO_ALFIL);
     if ((propios.Alfiles & ENCERRADOS) != 0) EvaluarEncierros<C>(ENCIERROS_ALFIL, propios.Alfiles);
 }
@@ -245,6 +272,36 @@ static void LlenarMapas() {
     AnotarAtaquesTorres<C>();
 }
 
+// Squares that rooks and queens attack and no lesser enemy piece does.
+template <int C>
+static void EvaluarCasillasSeguras() {
+    const ConjuntosBando& propios = Conjuntos[C];
+    const ConjuntosBando& rival   = Conjuntos[RIVAL<C>];
+    const Conjunto        menores = rival.Ataque_Peones | rival.Ataque_Caballos | rival.Ataque_Alfiles;
+    Sumar<C>(PESOS.BONUS_TORRE_CASILLA_SEGURA, Cuantas(propios.Ataque_Torres & ~(menores | propios.Todas)));
+    Sumar<C>(PESOS.BONUS_DAMA_CASILLA_SEGURA,
+             Cuantas(propios.Ataque_Damas & ~(menores | rival.Ataque_Torres | propios.Todas)));
+}
+
+// A rook on its first two ranks between its king and the edge, when the king has lost the right to castle: what the
+// king and the pawns leave it to move to.
+template <int C>
+static void EvaluarTorresEncerradas() {
+    constexpr int         HOLGURA = 4;
+    const ConjuntosBando& propios = Conjuntos[C];
+    const int             rey     = PosicionReyDe<C>();
+    const int             estado  = EnroqueDe<C>();
+    if (estado == ENROQUE_CORTO || estado == ENROQUE_LARGO || estado == ENROQUE_AMBOS || FilaRelativa<C>(rey) > 1)
+        return;
+    for (Conjunto torres = propios.Torres & Filas<C>(0, 1); torres != 0;) {
+        const int torre = SacarCasilla(torres);
+        const int lado  = Columna(torre) - Columna(rey);
+        if (lado == 0 || (lado < 0) != (Columna(rey) < 4)) continue;
+        const int salidas = Cuantas(AtaquesRectos(torre, Ocupadas) & ~(propios.Peones | propios.Rey));
+        if (salidas < HOLGURA) Sumar<C>(PESOS.PENALIZACION_TORRE_ENCERRADA, salidas - HOLGURA);
+    }
+}
+
 void EvaluarPiezasTableroJuego() {
     ReunirConjuntos();
     EvaluarCaballos<BLANCO>();
@@ -257,4 +314,8 @@ void EvaluarPiezasTableroJuego() {
     EvaluarMenoresTrasPeon<NEGRO>();
     LlenarMapas<BLANCO>();
     LlenarMapas<NEGRO>();
+    EvaluarCasillasSeguras<BLANCO>();
+    EvaluarCasillasSeguras<NEGRO>();
+    EvaluarTorresEncerradas<BLANCO>();
+    EvaluarTorresEncerradas<NEGRO>();
 }

@@ -105,33 +105,142 @@ static Conjunto SoloDelRey() {
     return Conjuntos[C].Ataque_Rey & ~ConDosOMas(Conjuntos[C].Ataques);
 }
 
-// Squares on which a piece of C may land next to the king of its enemy: nothing guards them, or only the king does
-// and a second attacker stands by.
+// The half of the board's width on which a king on each file lives.
+constexpr Conjunto FLANCO_DAMA   = COLUMNA_A * 0x0F;
+constexpr Conjunto FLANCO_CENTRO = FLANCO_DAMA << 2;
+constexpr Conjunto FLANCO_REY    = FLANCO_DAMA << 4;
+constexpr Conjunto FLANCO[8]     = {FLANCO_DAMA,   FLANCO_DAMA, FLANCO_DAMA, FLANCO_CENTRO,
+                                    FLANCO_CENTRO, FLANCO_REY,  FLANCO_REY,  FLANCO_REY};
+
+// What C sees when it looks at the king of its enemy.
+struct Cerco {
+    int      Rey;
+    Conjunto Rectas;  // the lines that lead to him, the first pieces on them included
+    Conjunto Diagonales;
+    Conjunto JaquesCaballo;  // squares from which a piece that attacks them would check him
+    Conjunto JaquesAlfil;
+    Conjunto JaquesTorre;
+    Conjunto JaquesDama;
+    Conjunto Seguras;  // where a piece may land: nothing guards it, or only the king and a second attacker stands by
+    Conjunto Debiles;  // attacked, and only the king guards it
+    Conjunto Flanco;
+};
+
 template <int C>
-static Conjunto CasillasSeguras() {
+static Cerco MirarCerco() {
     const ConjuntosBando& propios = Conjuntos[C];
     const ConjuntosBando& rival   = Conjuntos[RIVAL<C>];
-    const Conjunto        solas   = ~ConUnoOMas(rival.Ataques);
-    return ~propios.Todas & (solas | (SoloDelRey<RIVAL<C>>() & ConDosOMas(propios.Ataques)));
+    const Conjunto        suyas   = SoloDelRey<RIVAL<C>>();
+    Cerco                 cerco;
+    cerco.Rey           = PosicionReyDe<RIVAL<C>>();
+    cerco.Rectas        = AtaquesRectos(cerco.Rey, Ocupadas);
+    cerco.Diagonales    = AtaquesDiagonales(cerco.Rey, Ocupadas);
+    cerco.JaquesCaballo = ATAQUES_CABALLO[static_cast<std::size_t>(cerco.Rey)] & propios.Ataque_Caballos;
+    cerco.JaquesAlfil   = cerco.Diagonales & propios.Ataque_Alfiles;
+    cerco.JaquesTorre   = cerco.Rectas & propios.Ataque_Torres;
+    cerco.JaquesDama    = (cerco.Rectas | cerco.Diagonales) & propios.Ataque_Damas;
+    cerco.Seguras       = ~propios.Todas & (~ConUnoOMas(rival.Ataques) | (suyas & ConDosOMas(propios.Ataques)));
+    cerco.Debiles       = suyas & ConUnoOMas(propios.Ataques);
+    cerco.Flanco        = FLANCO[Columna(cerco.Rey)];
+    return cerco;
 }
 
-// Pressure on the enemy king. Without a queen, or with one attacker alone, the weight counts for nothing anyway.
+// A pressure counts by itself, and once more as danger: where several meet, they are worth more than their sum.
 template <int C>
-static void EvaluarAsalto() {
+static void Presionar(const Par& peso, const int& peligro, int veces) {
+    Sumar<C>(peso, veces);
+    SumarPeligro<C>(peligro, veces);
+}
+
+// The attack counts for nothing without a queen or with one attacker alone.
+template <int C>
+static void EvaluarAtaque(const Cerco& cerco) {
+    if (Conjuntos[C].Damas == 0 || BandoDe<C>().Ataque_Numero < 2) return;
+    SumarAtaque<C>(PESOS.PESO_JAQUE_CABALLO, Cuantas(cerco.JaquesCaballo & cerco.Seguras));
+    SumarAtaque<C>(PESOS.PESO_JAQUE_ALFIL, Cuantas(cerco.JaquesAlfil & cerco.Seguras));
+    SumarAtaque<C>(PESOS.PESO_JAQUE_TORRE, Cuantas(cerco.JaquesTorre & cerco.Seguras));
+    SumarAtaque<C>(PESOS.PESO_JAQUE_DAMA, Cuantas(cerco.JaquesDama & cerco.Seguras));
+    SumarAtaque<C>(PESOS.PESO_ZONA_DEBIL, Cuantas(cerco.Debiles));
+}
+
+template <int C>
+static void EvaluarJaques(const Cerco& cerco) {
+    const auto     hay        = [&cerco](Conjunto jaques) { return (jaques & cerco.Seguras) != 0 ? 1 : 0; };
+    const Conjunto menores    = cerco.JaquesCaballo | cerco.JaquesAlfil | cerco.JaquesTorre;
+    const Conjunto arriesgado = menores & ~Conjuntos[C].Todas & ~cerco.Seguras;
+    Presionar<C>(PESOS.JAQUE_SEGURO_CABALLO, PESOS.PELIGRO_JAQUE_CABALLO, hay(cerco.JaquesCaballo));
+    Presionar<C>(PESOS.JAQUE_SEGURO_ALFIL, PESOS.PELIGRO_JAQUE_ALFIL, hay(cerco.JaquesAlfil));
+    Presionar<C>(PESOS.JAQUE_SEGURO_TORRE, PESOS.PELIGRO_JAQUE_TORRE, hay(cerco.JaquesTorre));
+    Presionar<C>(PESOS.JAQUE_SEGURO_DAMA, PESOS.PELIGRO_JAQUE_DAMA, hay(cerco.JaquesDama));
+    Presionar<C>(PESOS.JAQUE_CON_RIESGO, PESOS.PELIGRO_JAQUE_RIESGO, Cuantas(arriesgado));
+}
+
+// The king's zone: what attacks it, and what of his own stands or looks there.
+template <int C>
+static void EvaluarZona(const Cerco& cerco) {
     const ConjuntosBando& propios = Conjuntos[C];
     const ConjuntosBando& rival   = Conjuntos[RIVAL<C>];
-    if (propios.Damas == 0 || BandoDe<C>().Ataque_Numero < 2 || rival.Rey == 0) return;
-    const int      rey        = PosicionReyDe<RIVAL<C>>();
-    const Conjunto seguras    = CasillasSeguras<C>();
-    const Conjunto rectas     = AtaquesRectos(rey, Ocupadas) & seguras;
-    const Conjunto diagonales = AtaquesDiagonales(rey, Ocupadas) & seguras;
-    const Conjunto saltos     = ATAQUES_CABALLO[static_cast<std::size_t>(rey)] & seguras;
-    const Conjunto debiles    = SoloDelRey<RIVAL<C>>() & ConUnoOMas(propios.Ataques);
-    SumarAtaque<C>(PESOS.PESO_JAQUE_CABALLO, Cuantas(saltos & propios.Ataque_Caballos));
-    SumarAtaque<C>(PESOS.PESO_JAQUE_ALFIL, Cuantas(diagonales & propios.Ataque_Alfiles));
-    SumarAtaque<C>(PESOS.PESO_JAQUE_TORRE, Cuantas(rectas & propios.Ataque_Torres));
-    SumarAtaque<C>(PESOS.PESO_JAQUE_DAMA, Cuantas((rectas | diagonales) & propios.Ataque_Damas));
-    SumarAtaque<C>(PESOS.PESO_ZONA_DEBIL, Cuantas(debiles));
+    const Conjunto        zona    = rival.Zona_Rey;
+    Sumar<C>(PESOS.ZONA_ATACADA, Cuantas(ConUnoOMas(propios.Ataques) & zona));
+    Presionar<C>(PESOS.ZONA_SIN_DEFENSA, PESOS.PELIGRO_ZONA_DEBIL, Cuantas(cerco.Debiles));
+    SumarPeligro<C>(PESOS.PELIGRO_ZONA_PEON, Cuantas(propios.Ataque_Peones & zona));
+    SumarPeligro<C>(PESOS.PELIGRO_ZONA_CABALLO, Cuantas(propios.Ataque_Caballos & zona));
+    SumarPeligro<C>(PESOS.PELIGRO_ZONA_ALFIL, Cuantas(propios.Ataque_Alfiles & zona));
+    SumarPeligro<C>(PESOS.PELIGRO_ZONA_TORRE, Cuantas(propios.Ataque_Torres & zona));
+    SumarPeligro<C>(PESOS.PELIGRO_ZONA_DAMA, Cuantas(propios.Ataque_Damas & zona));
+    SumarPeligro<C>(PESOS.PELIGRO_ATACANTE, BandoDe<C>().Ataque_Numero);
+    SumarPeligro<C>(PESOS.PELIGRO_PEON_SUYO, Cuantas(rival.Peones & (zona | rival.Zona_Exterior)));
+    if ((rival.Ataque_Caballos & zona) != 0) SumarPeligro<C>(PESOS.PELIGRO_CABALLO_SUYO);
+    if ((rival.Ataque_Alfiles & zona) != 0) SumarPeligro<C>(PESOS.PELIGRO_ALFIL_SUYO);
+}
+
+// How many pieces of C would see the enemy king if the nearest piece on their line were gone. Only cuales may go.
+template <int C>
+static int PiezasTras(const Cerco& cerco, Conjunto cuales) {
+    if (((cerco.Rectas | cerco.Diagonales) & cuales) == 0) return 0;
+    const ConjuntosBando& propios    = Conjuntos[C];
+    const Conjunto        rectas     = AtaquesRectos(cerco.Rey, Ocupadas ^ (cerco.Rectas & cuales));
+    const Conjunto        diagonales = AtaquesDiagonales(cerco.Rey, Ocupadas ^ (cerco.Diagonales & cuales));
+    return Cuantas(rectas & ~cerco.Rectas & (propios.Torres | propios.Damas)) +
+           Cuantas(diagonales & ~cerco.Diagonales & (propios.Alfiles | propios.Damas));
+}
+
+// Pieces of either side that stand between the king and a line piece. A pawn there holds fast or opens its line slowly.
+template <int C>
+static void EvaluarClavadas(const Cerco& cerco) {
+    const ConjuntosBando& propios = Conjuntos[C];
+    const ConjuntosBando& rival   = Conjuntos[RIVAL<C>];
+    if ((propios.Alfiles | propios.Torres | propios.Damas) == 0) return;
+    Presionar<C>(PESOS.CLAVADA, PESOS.PELIGRO_CLAVADA, PiezasTras<C>(cerco, rival.Todas ^ rival.Peones));
+    Sumar<C>(PESOS.DESCUBIERTA, PiezasTras<C>(cerco, propios.Todas ^ propios.Peones));
+}
+
+// The king's flank on his half of the board, and how openly he stands.
+template <int C>
+static void EvaluarFlanco(const Cerco& cerco) {
+    const ConjuntosBando& propios = Conjuntos[C];
+    const ConjuntosBando& rival   = Conjuntos[RIVAL<C>];
+    const Conjunto        suyo    = cerco.Flanco & Filas<RIVAL<C>>(0, 4);
+    const int             vistas  = Cuantas((cerco.Rectas | cerco.Diagonales) & ~rival.Todas);
+    Presionar<C>(PESOS.FLANCO_ATACADO, PESOS.PELIGRO_FLANCO_ATACADO, Cuantas(ConUnoOMas(propios.Ataques) & suyo));
+    Presionar<C>(PESOS.FLANCO_DOS_VECES, PESOS.PELIGRO_FLANCO_DOS_VECES, Cuantas(ConDosOMas(propios.Ataques) & suyo));
+    SumarPeligro<C>(PESOS.PELIGRO_FLANCO_SUYO, Cuantas(ConUnoOMas(rival.Ataques) & suyo));
+    SumarPeligro<C>(PESOS.PELIGRO_EXPUESTO, vistas);
+    SumarPeligro<C>(propios.Damas == 0 ? PESOS.PELIGRO_SIN_DAMA : PESOS.PELIGRO_CON_DAMA);
+    if (((propios.Peones | rival.Peones) & cerco.Flanco) == 0) Sumar<C>(PESOS.FLANCO_SIN_PEONES);
+    if (propios.Damas != 0) Sumar<C>(PESOS.REY_EXPUESTO[std::min(vistas / 2, RegistroPesos::EXPOSICIONES - 1)]);
+}
+
+// What C has against the king of its enemy; a board without one promises nothing.
+template <int C>
+static void EvaluarAsalto() {
+    if (Conjuntos[RIVAL<C>].Rey == 0) return;
+    const Cerco cerco = MirarCerco<C>();
+    EvaluarAtaque<C>(cerco);
+    EvaluarJaques<C>(cerco);
+    EvaluarZona<C>(cerco);
+    EvaluarClavadas<C>(cerco);
+    EvaluarFlanco<C>(cerco);
 }
 
 template <int C>

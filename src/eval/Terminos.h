@@ -25,5 +25,8 @@ void EvaluarTorreN();
 // that only the enemy king guards. After the rooks.
 void EvaluarReyes();
 
+// What kings and pieces of both sides do for the passed pawns and against them. After the pieces.
+void EvaluarApoyoPasados();
+
 // Threats of both sides: enemy pieces that stand attacked and are not, or not well enough, defended. After the rooks.
 void EvaluarAmenazas();

@@ -80,8 +80,10 @@ static std::pair<int, int> Sumar(const RegistroBando& b, int color) {
     const bool cuenta = b.Ataque_Numero > 1 && b.Damas > 0;
     const int  ataque = cuenta ? KING_ATTACK_MULTI[std::min(b.Ataque_Valor, 399)] * AJUSTE_ATT[color] / 100 : 0;
     const int  turno  = TableroGlobal.Turno == color ? 1 : 0;
-    return {b.Puntos_OP + b.Movilidad_OP * AJUSTE_MOB[color] / 100 + b.Tropismo_OP / 5 + ataque + 5 * turno,
-            b.Puntos_EG + b.Movilidad_EG * AJUSTE_MOB[color] / 100 + b.Tropismo_EG / 5 + ataque + 10 * turno};
+    const int  p      = std::clamp(b.Peligro, 0, PELIGRO_MAX);
+    return {
+        b.Puntos_OP + b.Movilidad_OP * AJUSTE_MOB[color] / 100 + b.Tropismo_OP / 5 + ataque + p * p / 512 + 5 * turno,
+        b.Puntos_EG + b.Movilidad_EG * AJUSTE_MOB[color] / 100 + b.Tropismo_EG / 5 + ataque + p / 8 + 10 * turno};
 }
 
 // The score is what its parts add up to, also where a side attacks with one piece only, without a queen, or where the
@@ -96,8 +98,9 @@ TEST_F(Evaluador, EsLaSumaDeSusPartes) {
         Fen(fen);
         Iniciar_Asimetrico();
         LimpiarPuntuacion(0);
-        for (const Parte parte : {Material_Imbalance, EvaluarApertura, EvaluarPiezasTableroJuego, EvaluarPeonesB,
-                                  EvaluarPeonesN, EvaluarTorreB, EvaluarTorreN, EvaluarReyes, EvaluarAmenazas})
+        for (const Parte parte :
+             {Material_Imbalance, EvaluarApertura, EvaluarPiezasTableroJuego, EvaluarPeonesB, EvaluarPeonesN,
+              EvaluarTorreB, EvaluarTorreN, EvaluarReyes, EvaluarApoyoPasados, EvaluarAmenazas})
             parte();
         const auto [bop, beg] = Sumar(Blancas, BLANCO);
         const auto [nop, neg] = Sumar(Negras, NEGRO);

@@ -43,7 +43,7 @@ constexpr Pareja AMENAZAS[] = {
     {"pawn on a knight", "6k1/8/4p3/3n4/4P3/8/8/6K1 w - - 0 1", "6k1/8/4p3/3n4/3P4/8/8/6K1 w - - 0 1"},
     {"pawn on a rook", "6k1/8/4p3/3r4/4P3/8/8/6K1 w - - 0 1", "6k1/8/4p3/3r4/3P4/8/8/6K1 w - - 0 1"},
     {"bishop on a queen", "6k1/8/4p3/3q4/8/1B6/8/6K1 w - - 0 1", "6k1/8/4p3/3b4/8/1B6/8/6K1 w - - 0 1"},
-    {"rook on a queen", "6k1/8/4p3/3q4/8/8/8/3R2K1 w - - 0 1", "6k1/8/4p3/3r4/8/8/8/3R2K1 w - - 0 1"},
+    {"rook on a queen", "6k1/8/4p3/3q4/8/8/8/3RK3 w - - 0 1", "6k1/8/4p3/3r4/8/8/8/3RK3 w - - 0 1"},
     {"two attackers, one defender", "8/8/4k3/3n4/8/1B6/8/3R2K1 w - - 0 1", "8/8/2b1k3/3n4/8/1B6/8/3R2K1 w - - 0 1"},
     {"a step about to attack", "6k1/8/4p3/3n4/8/4P3/8/6K1 w - - 0 1", "6k1/8/4p3/3n4/4p3/4P3/8/6K1 w - - 0 1"},
     {"a double step", "6k1/8/4p3/3b4/8/3K4/2P5/8 w - - 0 1", "6k1/8/4p3/3b4/8/2BK4/2P5/8 w - - 0 1"},
@@ -52,9 +52,14 @@ constexpr Pareja REFUGIO[] = {
     {"shield in place", "3qk3/8/8/8/8/8/5PPP/6K1 w - - 0 1", "3qk3/8/8/8/8/6P1/5P1P/6K1 w - - 0 1"},
     {"half-open, not open", "3qk3/6p1/8/8/8/8/5P1P/6K1 w - - 0 1", "3qk3/8/8/8/8/8/5P1P/6K1 w - - 0 1"},
     {"open before heavy pieces", "3bk3/8/8/8/8/8/5P1P/6K1 w - - 0 1", "3rk3/8/8/8/8/8/5P1P/6K1 w - - 0 1"},
-    {"storm stopped", "3qk3/8/8/8/8/6p1/5PPP/6K1 w - - 0 1", "3qk3/8/8/8/6p1/8/5PPP/6K1 w - - 0 1"},
     {"right to castle", "4k3/8/8/8/8/8/PPPPPPPP/R3K2R w K - 0 1", "4k3/8/8/8/8/8/PPPPPPPP/R3K2R w - - 0 1"},
     {"the better wing", "3qk3/8/8/8/6P1/8/PPPPP3/R3K2R w Q - 0 1", "3qk3/8/8/8/6P1/8/PPPPP3/R3K2R w K - 0 1"},
+};
+constexpr Pareja APOYO[] = {
+    {"own king before it", "7k/8/4K3/4P3/8/8/8/8 w - - 0 1", "7k/8/8/4P3/8/8/8/K7 w - - 0 1"},
+    {"enemy king far away", "k7/8/8/4P3/8/8/8/K7 w - - 0 1", "8/4k3/8/4P3/8/8/8/K7 w - - 0 1"},
+    {"own rook behind it", "k7/8/8/4P3/8/8/8/K3R3 w - - 0 1", "k7/8/8/4P3/8/8/8/K3r3 w - - 0 1"},
+    {"way clear", "k7/8/8/4P3/8/8/8/K7 w - - 0 1", "k7/4n3/8/4P3/8/8/8/K7 w - - 0 1"},
 };
 constexpr Pareja REY_FINAL[] = {{"centre", "7k/8/8/8/4K3/8/8/8 w - - 0 1", "7k/8/8/8/8/8/8/6K1 w - - 0 1"}};
 // clang-format on
@@ -65,6 +70,7 @@ TEST_F(Rasgos, CadaUnoSeNota) {
     CompararParejas(ZONA, &Aporte::Ataque, {EvaluarPiezasTableroJuego});
     CompararParejas(ASALTO, &Aporte::Ataque, {EvaluarPiezasTableroJuego, EvaluarReyes});
     CompararParejas(REFUGIO, &Aporte::OP, {EvaluarPiezasTableroJuego, EvaluarReyes});
+    CompararParejas(APOYO, &Aporte::EG, {EvaluarPiezasTableroJuego, EvaluarApoyoPasados});
     CompararParejas(REY_FINAL, &Aporte::EG, {EvaluarPiezasTableroJuego, EvaluarReyes});
     for (const auto campo : {&Aporte::OP, &Aporte::EG})
         CompararParejas(AMENAZAS, campo, {EvaluarPiezasTableroJuego, EvaluarTorreB, EvaluarTorreN, EvaluarAmenazas});

@@ -89,8 +89,8 @@ TEST(Afinar, ConoceElFicheroDeLosPesos) {
     EXPECT_EQ(TextoConPesos(fichero, valores), fichero.Texto);
 }
 
-// The coefficients say what really happens when a weight changes by one. Only the attack on the king is no straight
-// line, and comes in whole centipawns.
+// The coefficients say what really happens when a weight changes by one. Only the attack on the king and his danger
+// are no straight lines, and come in whole centipawns.
 TEST(Afinar, LosCoeficientesSonLosDeLaEvaluacion) {
     constexpr const char* POSICIONES[] = {
         "r1bq1rk1/pp3ppp/2n1p3/3pP3/N2P2Pb/4B3/PP2BP1P/R2Q1RK1 w - - 0 14",
@@ -114,7 +114,8 @@ TEST(Afinar, LosCoeficientesSonLosDeLaEvaluacion) {
                 std::vector<int> nuevos = pesos;
                 ++nuevos[i];
                 PonerPesos(nuevos);
-                const double tolerancia = miembro.Nombre.starts_with("PESO_") ? 3 : 0.001;
+                const bool   curvo      = miembro.Nombre.starts_with("PESO_") || miembro.Nombre.starts_with("PELIGRO_");
+                const double tolerancia = curvo ? 3 : 0.001;
                 EXPECT_NEAR(Observar(fen, otros), puntos + cambios[i], tolerancia) << fen << ' ' << miembro.Nombre;
             }
     }
