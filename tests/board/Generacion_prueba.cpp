@@ -39,11 +39,12 @@ TEST_F(Generacion, OrdenDeLaLista) {
 }
 
 TEST_F(Generacion, PalabraDeMovimiento) {
-    EXPECT_EQ(Buscado("e2e4"), 0x0BFC5234U);
-    Fen("4k3/8/8/8/8/8/8/4K2R w K - 0 1");
-    EXPECT_EQ(Buscado("e1g1"), 0x13FD9F3CU);
-    Fen("r6k/1P6/8/8/8/8/8/K7 w - - 0 1");
-    EXPECT_EQ(Buscado("b7a8q"), 0x016C4009U);
+    for (const auto& [fen, texto, palabra] : {std::tuple{POSICIONES[0], "e2e4", 0x0BFC5234U},
+                                              {"4k3/8/8/8/8/8/8/4K2R w K - 0 1", "e1g1", 0x13FD9F3CU},
+                                              {"r6k/1P6/8/8/8/8/8/K7 w - - 0 1", "b7a8q", 0x016C4009U}}) {
+        Fen(fen);
+        EXPECT_EQ(Buscado(texto), palabra);
+    }
 }
 
 // Attacked squares on the king's way; the arrival square is left to the legality test, and b1 may be attacked.

@@ -71,31 +71,16 @@ TEST_F(Jugadas, ClaveIncremental) {
 TEST_F(Jugadas, EstadosDeEnroqueYSusClaves) {
     constexpr char BLANCAS[] = "r3k2r/8/8/8/8/8/8/R3K2R w KQkq - 0 1";
     constexpr char NEGRAS[]  = "r3k2r/8/8/8/8/8/8/R3K2R b KQkq - 0 1";
-    struct {
-        const char* fen;
-        const char* jugada;
-        int         blancas, negras;
-        int         columna;  // of the key that stays in, -1 = none
-    } const CASOS[] = {
-        {BLANCAS, "a1b1", 1, 3, 60},
-        {BLANCAS, "h1g1", 2, 3, 60},
-        {BLANCAS, "e1e2", 0, 3, 60},
-        {BLANCAS, "e1g1", 5, 3, 60},
-        {BLANCAS, "e1c1", 4, 3, 60},
-        {NEGRAS, "h8g8", 3, 2, 3},
-        {NEGRAS, "a8b8", 3, 1, 3},
-        {NEGRAS, "e8g8", 3, 5, 3},
-        {NEGRAS, "e8c8", 3, 4, 3},
-        {BLANCAS, "a1a8", 1, 3, 60},  // the captured rook's side keeps its state
-        {"4k3/8/8/8/8/8/8/R3K2R w K - 0 1", "a1b1", 1, 0, -1},
-    };
-    for (const auto& caso : CASOS) {
-        SCOPED_TRACE(caso.jugada);
-        Fen(caso.fen);
-        HacerMovimiento(Buscado(caso.jugada));
-        EXPECT_EQ(TableroGlobal.EnroqueBlancas, caso.blancas);
-        EXPECT_EQ(TableroGlobal.EnroqueNegras, caso.negras);
-        EXPECT_EQ(TableroGlobal.Key ^ ObtenerKey(), caso.columna < 0 ? 0 : zobrist_Tablero[FILA_ENROQUE][caso.columna]);
+    // clang-format off
+    for (const auto& [fen, jugada, blancas, negras] :   // and the states afterwards
+         {std::tuple{BLANCAS, "a1b1", 1, 3}, {BLANCAS, "h1g1", 2, 3}, {BLANCAS, "e1e2", 0, 3}, {BLANCAS, "e1g1", 5, 3},
+          {BLANCAS, "e1c1", 4, 3}, {NEGRAS, "h8g8", 3, 2}, {NEGRAS, "a8b8", 3, 1}, {NEGRAS, "e8g8", 3, 5},
+          {NEGRAS, "e8c8", 3, 4}, {BLANCAS, "a1a8", 1, 3}}) {   // a captured rook's side keeps its state
+        // clang-format on
+        Fen(fen);
+        HacerMovimiento(Buscado(jugada));
+        EXPECT_EQ(TableroGlobal.EnroqueBlancas * 10 + TableroGlobal.EnroqueNegras, blancas * 10 + negras) << jugada;
+        EXPECT_EQ(TableroGlobal.Key ^ ObtenerKey(), zobrist_Tablero[FILA_ENROQUE][blancas == 3 ? 3 : 60]) << jugada;
     }
     Fen("r3k2r/8/8/8/8/8/8/R4RK1 b kq - 0 1");
     TableroGlobal.EnroqueBlancas = ENROCADO_CORTO;
@@ -106,16 +91,11 @@ TEST_F(Jugadas, EstadosDeEnroqueYSusClaves) {
 TEST_F(Jugadas, RelojAlPasoYCoronacion) {
     Fen("4k3/P6p/8/6P1/8/8/8/RN2K3 b - - 7 1");
     Jugar({"h7h5"});
-    EXPECT_EQ(TableroGlobal.FichaAlPaso, 31);
-    EXPECT_EQ(TableroGlobal.Regla50, 0);
-    Jugar({"g5h6"});
-    EXPECT_EQ(Negras.Peones, 0);
-    EXPECT_EQ(TableroGlobal.Casillas[31], VACIO);
-    Jugar({"e8e7", "a7a8r"});
+    EXPECT_EQ(TableroGlobal.FichaAlPaso - TableroGlobal.Regla50, 31);
+    Jugar({"g5h6", "e8e7", "a7a8r"});
+    EXPECT_TRUE(TableroGlobal.Casillas[31] == VACIO && TableroGlobal.Casillas[0] == TORRE_B);
     EXPECT_EQ(TableroGlobal.Deshacer[3].Regla50, 1);
-    EXPECT_EQ(Blancas.Peones, 1);
-    EXPECT_EQ(Blancas.Torres, 2);
-    EXPECT_EQ(TableroGlobal.Casillas[0], TORRE_B);
+    EXPECT_TRUE(Negras.Peones == 0 && Blancas.Peones == 1 && Blancas.Torres == 2);
 }
 
 TEST_F(Jugadas, ClavesParesDistintasYRepetibles) {

@@ -26,23 +26,16 @@ static Cuentas Contar(std::string_view letras) {
 }
 
 TEST_F(Finales, FactorPorMaterial) {
-    struct {
-        const char* nombre;
-        int         minimo, maximo;
-        const char* materiales;
-    } constexpr CASOS[] = {
-        {"dead draws", 0, 0, "- B-N NN- NN-B"},
-        {"real wins keep their score", 100, 100, "Q-R BN- BB- RR-R Q-N P- RP-B"},
-        {"a rule for few men only", 100, 100, "N-PPPP QRRBBNNPPPPPPPP-QRRBBNNPPPPPPPP"},
-        {"drawn as a rule", 1, 40, "RB-R R-N Q-RB Q-NN RR-RB B-P RB-RP"},
-        {"harder than the material says", 20, 99, "NN-P BP-N RP-R BB-N"},
-    };
-    for (const auto& caso : CASOS) {
-        std::istringstream materiales(caso.materiales);
-        for (std::string m; materiales >> m;) {
+    for (const auto& [minimo, maximo, materiales] :
+         {std::tuple{0, 0, "- B-N NN- NN-B"},                                       // dead draws
+          {100, 100, "Q-R BN- BB- RR-R Q-N P- RP-B N-PPPP QRRBBNNPPP-QRRBBNNPPP"},  // scored as they are
+          {1, 40, "RB-R R-N Q-RB Q-NN RR-RB B-P RB-RP"},                            // drawn as a rule
+          {20, 99, "NN-P BP-N RP-R BB-N"}}) {                                       // harder than it looks
+        std::istringstream lista(materiales);
+        for (std::string m; lista >> m;) {
             const Cuentas unas = Contar(m.substr(0, m.find('-'))), otras = Contar(m.substr(m.find('-')));
-            EXPECT_GE(Factor(unas, otras), caso.minimo) << caso.nombre << m;
-            EXPECT_LE(Factor(unas, otras), caso.maximo) << caso.nombre << m;
+            EXPECT_GE(Factor(unas, otras), minimo) << m;
+            EXPECT_LE(Factor(unas, otras), maximo) << m;
             EXPECT_EQ(Factor(otras, unas), Factor(unas, otras)) << m;
         }
     }

@@ -25,21 +25,19 @@ static std::string Leer(int limite) {
     return LeerLinea(linea.data(), limite) == 1 ? linea.data() : "end of input";
 }
 
-struct CasoLineas {
-    const char*              nombre;
-    std::string              bytes;
-    int                      limite;
-    std::vector<std::string> lineas;
-};
-
 TEST(Entrada, EntregaLineasYTrozosSinEsperar) {
-    const CasoLineas casos[] = {
+    const struct {
+        const char*              nombre;
+        std::string              bytes;
+        int                      limite;
+        std::vector<std::string> lineas;
+    } casos[] = {
         {"two lines at once", "stop\nisready\n", 80, {"stop", "isready"}},
         {"CR goes with LF only", "\n\r\na\rb\r\r\n", 80, {"", "", "a\rb\r"}},
         {"NUL ends the text, not the line", std::string("uci\0x\nquit\n", 11), 80, {"uci", "quit"}},
         {"pieces of a long line", "abcdef\ng\n", 4, {"abc", "def", "", "g"}},
     };
-    for (const CasoLineas& caso : casos) {
+    for (const auto& caso : casos) {
         SCOPED_TRACE(caso.nombre);
         EXPECT_EQ(HayLinea(caso.limite), 0);
         Escribir(caso.bytes);
