@@ -38,6 +38,14 @@ inline std::string Capturar(const std::function<void()>& accion) {
     return testing::internal::GetCapturedStdout();
 }
 
+// Text between the last place of a word in the text and the next blank.
+inline std::string Tras(const std::string& texto, const std::string& palabra) {
+    const std::size_t lugar = texto.rfind(palabra + " ");
+    if (lugar == std::string::npos) return "";
+    const std::size_t inicio = lugar + palabra.size() + 1;
+    return texto.substr(inicio, texto.find_first_of(" \n", inicio) - inicio);
+}
+
 // Exchanges colours, ranks and the side to move.
 inline void Reflejar() {
     RegistroTablero& t = TableroGlobal;

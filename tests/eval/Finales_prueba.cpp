@@ -71,9 +71,6 @@ TEST_F(Finales, PosicionesConocidas) {
         const char* fen;
         Juicio      juicio;
     } constexpr CASOS[] = {
-        {"bare queen", "8/8/8/4k3/8/8/8/KQ6 b - - 0 1", GANADA},
-        {"unlike bishops", "8/8/8/4k3/8/8/8/KBB5 w - - 0 1", GANADA},
-        {"pawn with the opposition", "4k3/8/4K3/4P3/8/8/8/8 b - - 0 1", GANADA},
         {"wrong bishop", "k7/8/1K6/P7/8/4B3/8/8 w - - 0 1", TABLAS},
         {"right bishop", "k7/8/1K6/P7/8/5B2/8/8 w - - 0 1", NADA},
         {"wrong bishop, king far away", "8/8/P7/8/2K5/4B3/8/7k w - - 0 1", GANADA},

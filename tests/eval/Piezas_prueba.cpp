@@ -1,9 +1,6 @@
 // Sets against a plain walk over the board.
 #include "eval/Terminos.h"
 
-#include <map>
-
-#include "board/Ataques.h"
 #include "comun/Oraculo.h"
 #include "eval/Conjuntos.h"
 #include "eval/Evaluacion.h"
@@ -52,30 +49,5 @@ TEST_F(Piezas, ConjuntosComoElRecorridoPasoAPaso) {
         EvaluarTorreN();
         CompararConElRecorrido<BLANCO>();
         CompararConElRecorrido<NEGRO>();
-    }
-}
-
-// Mobility depends on nothing but the number of attacked squares without own pawns, the own king, and what enemy pawns
-// guard.
-TEST_F(Piezas, LaMovilidadCuentaLasCasillasQueNoCubrenLosPeones) {
-    std::mt19937 azar(3);
-    for (const auto& [letra, pieza] : {std::pair{'N', CABALLO_B}, {'B', ALFIL_B}, {'Q', DAMA_B}}) {
-        std::map<int, int> valores;
-        for (unsigned n = 0; n < 2000; ++n) {
-            Fen(TableroAlAzar(azar, 2 + n % 30, std::string("PpPpRK") + letra), n % 2 == 0);
-            const int* const t        = TableroGlobal.Casillas;
-            const int        desfase  = n % 2 == 0 ? DESFASE_NEGRO : 0;
-            const auto       cubierta = n % 2 == 0 ? AmenazadoPorPeonBlanco : AmenazadoPorPeonNegro;
-            if (std::count(t, t + 64, pieza + desfase) != 1 || std::count(t, t + 64, REY_B + desfase) != 1) continue;
-            int numero = 0;
-            for (const int casilla : AtaquesDesde(static_cast<int>(std::find(t, t + 64, pieza + desfase) - t)))
-                numero += t[casilla] != PEON_B + desfase && t[casilla] != REY_B + desfase && !cubierta(casilla);
-            LimpiarPuntuacion(0);
-            EvaluarPiezasTableroJuego();
-            const int valor = Propio(n % 2 == 0).Movilidad_OP;
-            ASSERT_EQ(valores.try_emplace(numero, valor).first->second, valor) << letra << " " << numero;
-        }
-        EXPECT_GT(valores.size(), 6U);
-        EXPECT_GT(valores.rbegin()->second, valores.begin()->second);
     }
 }

@@ -29,11 +29,9 @@ static void CompararCasos(const Caso (&casos)[N], std::initializer_list<Parte> p
 // clang-format off
 constexpr Caso APERTURA[] = {
     {"e2 blocked by its own piece", "4k3/8/8/8/8/4N3/4P3/4K3 w - - 0 1", {-20, 0}},
-    {"d2 blocked by an enemy piece", "4k3/8/8/8/8/3n4/3P4/4K3 w - - 0 1", {-20, 0}},
     {"bishop f1 shut in", "4k3/8/8/8/8/4N3/4P3/4KB2 w - - 0 1", {-70, 0}},
     {"knight before the c pawn", "4k3/8/8/8/3P4/2N5/2P5/4K3 w - - 0 1", {-20, 0}},
     {"... not with e4 taken", "4k3/8/8/8/3PP3/2N5/2P5/4K3 w - - 0 1", {0, 0}},
-    {"bishop h2 beside d4", "4k3/8/8/8/3P4/8/7B/4K3 w - - 0 1", {10, 0}},
     {"two bishops count once", "4k3/8/8/6B1/3P1B2/8/8/4K3 w - - 0 1", {10, 0}},
     {"bishop a4 beside e4", "4k3/8/8/8/B3P3/8/8/4K3 w - - 0 1", {10, 0}},
     {"bishop b5 does not help d4", "4k3/8/8/1B6/3P4/8/8/4K3 w - - 0 1", {0, 0}},
@@ -46,7 +44,6 @@ constexpr Caso PEONES[] = {
     {"doubled, both passed", "4k2n/8/8/8/8/P7/P7/4K3 w - - 0 1", {-12 - 40 + 24 - 30, -24 - 40 + 20 + 21 + 6}},
     {"runs alone", "8/P7/8/8/8/8/8/k6K w - - 0 1", {-20 + 130 + 400 - 15, -20 + 191 + 400 + 3}},
     {"the move decides, won", "8/8/4k3/P7/8/8/8/7K w - - 0 1", {-20 + 50 + 300 - 15, -20 + 70 + 300 + 3}},
-    {"the move decides, lost", "8/8/4k3/P7/8/8/8/7K b - - 0 1", {-20 + 50 - 15, -20 + 70 + 3}},
     {"no double step for the rule", "8/8/4k3/8/8/8/P7/7K w - - 0 1", {-20 + 12 - 15, -20 + 20 + 3}},
     {"blocked by a piece", "k7/8/4n3/4P3/8/8/8/7K w - - 0 1", {-20 + 40 + 15 + 5, -20 + 61 - 3}},
     {"enemy pawn beside it", "4k1n1/8/8/3Pp3/8/8/8/4K3 w - - 0 1", {-20 + 50 + 15 + 5, -20 + 67 - 3}},
@@ -58,7 +55,6 @@ constexpr Caso PEONES[] = {
      {-7 + 8 + 13 - 5 + 5 + 15, -8 + 2 + 3 + 1 - 1 - 3}},
     {"candidate, a far pawn joins too late", "4k3/4p3/2p5/8/1PP5/8/8/4K3 w - - 0 1", {6 + 8 + 10, 4 + 20}},
     {"denied from two files away", "4k3/p7/2p5/8/1PP5/8/8/4K3 w - - 0 1", {6 + 8, 4}},
-    {"denied from the next file", "4k3/3p4/2p5/8/1PP5/8/8/4K3 w - - 0 1", {6 + 8, 4}},
     {"denied from the h file", "4k3/7p/5p2/8/5PP1/8/8/4K3 w - - 0 1", {6 + 8, 4}},
 };
 
@@ -68,11 +64,9 @@ constexpr Caso TORRES[] = {
     {"a knight beside it counts", "k7/8/8/3P4/2PRN3/3P4/8/7K w - - 0 1", {2, 0, -12, -24, 14, 7}},
     {"no wrap round the edge", "k7/8/8/8/7R/q7/8/K7 w - - 0 1", {-4 + 14, 14, 14, 28, 6, 3}},
     {"pawns on both sides, one protected", "k7/8/3p4/8/3R4/2p5/3p4/7K w - - 0 1", {2 + 7 + 5, 12, 8, 16, 14, 7}},
-    {"pawn behind a piece", "k7/8/3p4/8/8/3N4/8/3R3K w - - 0 1", {4 + 7, 7, 4, 8, 8, 4}},
     {"pawn behind the queen", "k7/3p4/3q4/8/8/8/8/3R3K w - - 0 1", {4 + 5 + 7, 12, 10, 20, 8, 4}},
     {"faces the queen on a file", "3q3k/8/8/8/8/8/8/K2R4 w - - 0 1", {4 + 14 + 5, 19, 14, 28, 6, 3}},
     {"seventh, king on the eighth", "6k1/R7/8/8/8/8/8/K7 w - - 0 1", {-4 + 30, 46, 14, 28, 14, 7, 27, 1}},
-    {"seventh, king on it: a check", "8/R5k1/8/8/8/8/8/K7 w - - 0 1", {-4 + 14, 14, 12, 24, 16, 8, 27, 1}},
     {"seventh, pawns about to promote", "8/R5k1/8/8/8/8/7p/K7 w - - 0 1", {-4 + 30, 46, 12, 24, 16, 8, 27, 1}},
     {"pair on the seventh", "6k1/RR6/8/8/8/8/8/K7 w - - 0 1", {-6 + 68, 28 + 80, 16, 32, 30, 15, 27, 1}},
     {"trapped by a bishop", "k7/8/8/8/8/7p/6bR/K7 w - - 0 1", {-4 + 7 - 100, -93, -8, -16, 2, 1}},

@@ -20,6 +20,12 @@ std::string LeerFichero(const char* ruta) {
     return {std::istreambuf_iterator<char>(fichero), {}};
 }
 
+std::vector<int> ValoresDe(const FicheroPesos& fichero) {
+    std::vector<int> valores;
+    for (const Literal& literal : fichero.Literales) valores.push_back(literal.Valor);
+    return valores;
+}
+
 TEST(Afinar, RechazaFenQueElMotorNoDebeVer) {
     EXPECT_EQ(DefectoFen("8/p7/1p6/8/7N/P2K1p2/5k2/8 b - - 1 47"), nullptr);
     EXPECT_EQ(DefectoFen("8/p7/1p6/8/7N/P2K1p2/5k2/8 b"), nullptr);
@@ -54,16 +60,10 @@ constexpr char PESOS_DE_EJEMPLO[] =
 TEST(Afinar, EscribeLosPesosEnSuSitio) {
     const FicheroPesos fichero = InterpretarPesos(PESOS_DE_EJEMPLO);
     ASSERT_EQ(fichero.Miembros.size(), 3U);
-    EXPECT_EQ(fichero.Miembros[0].Nombre, "UNO");
-    EXPECT_TRUE(fichero.Miembros[0].EsPar);
-    EXPECT_EQ(fichero.Miembros[1].Primero, 2U);
-    EXPECT_EQ(fichero.Miembros[1].Numero, 8U);
-    EXPECT_FALSE(fichero.Miembros[2].EsPar);
-
-    std::vector<int> pesos;
-    for (const Literal& literal : fichero.Literales) pesos.push_back(literal.Valor);
-    EXPECT_EQ(pesos, (std::vector<int>{24, -22, -1, 2, 3, 40, 10, 2, 3, 4, 9}));
-    EXPECT_EQ(TextoConPesos(fichero, pesos), PESOS_DE_EJEMPLO);
+    EXPECT_TRUE(fichero.Miembros[0].Nombre == "UNO" && fichero.Miembros[0].EsPar && !fichero.Miembros[2].EsPar);
+    EXPECT_TRUE(fichero.Miembros[1].Primero == 2 && fichero.Miembros[1].Numero == 8);
+    EXPECT_EQ(ValoresDe(fichero), (std::vector<int>{24, -22, -1, 2, 3, 40, 10, 2, 3, 4, 9}));
+    EXPECT_EQ(TextoConPesos(fichero, ValoresDe(fichero)), PESOS_DE_EJEMPLO);
 
     const std::vector<int> nuevos = {5, -122, -1, -200, 3, 40, 10, 2, 3, 4, 10};
     const std::string      texto  = TextoConPesos(fichero, nuevos);
@@ -79,10 +79,8 @@ TEST(Afinar, EscribeLosPesosEnSuSitio) {
 // The source of the weights is read as the record is laid out, and written back unchanged.
 TEST(Afinar, ConoceElFicheroDeLosPesos) {
     const FicheroPesos fichero = InterpretarPesos(LeerFichero(RUTA_PESOS));
-    std::vector<int>   valores;
-    for (const Literal& literal : fichero.Literales) valores.push_back(literal.Valor);
-    EXPECT_EQ(valores, LeerPesos());
-    EXPECT_EQ(TextoConPesos(fichero, valores), fichero.Texto);
+    EXPECT_EQ(ValoresDe(fichero), LeerPesos());
+    EXPECT_EQ(TextoConPesos(fichero, ValoresDe(fichero)), fichero.Texto);
 }
 
 // The coefficients say what really happens when a weight changes by one. Only the attack on the king and his danger

@@ -22,14 +22,6 @@ protected:
     void TearDown() override { LiberarTransposicion(); }
 };
 
-// Text between a word of a line and the next blank.
-inline std::string Tras(const std::string& linea, const std::string& palabra) {
-    const std::size_t lugar = linea.find(palabra + " ");
-    if (lugar == std::string::npos) return "";
-    const std::size_t inicio = lugar + palabra.size() + 1;
-    return linea.substr(inicio, linea.find_first_of(" \n", inicio) - inicio);
-}
-
 struct Salida {
     std::vector<std::string> Iteraciones;  // "info depth" lines
     std::vector<int>         Intentos;     // searches of the root that each of them took

@@ -63,7 +63,7 @@ TEST_F(Conductor, ShowPvDecideQueLineasSeVen) {
         TipoJuego.ShowPv    = nivel;
         const Salida salida = Correr("8/pp3k2/2p5/3p4/3P4/2P5/PP3K2/8 w - - 0 1", 10);
         ASSERT_EQ(salida.Iteraciones.size(), lineas);
-        EXPECT_EQ(Tras(salida.Iteraciones[0], "depth"), primera);
+        EXPECT_EQ(Tras(salida.Iteraciones[0], "info depth"), primera);
         EXPECT_EQ(salida.Intentos[0], currmoves);
         EXPECT_EQ(TipoJuego.Infinito, 0);
     }

@@ -61,9 +61,8 @@ TEST_F(Orden, Bandas) {
 }
 
 TEST_F(Orden, EntreIgualesVaDelanteElPrimero) {
-    const int puntos[] = {1, 5, 3, 5};
-    for (int i = 0; i < 4; ++i) lista.Entradas[i] = {static_cast<std::uint32_t>(i), puntos[i]};
     std::string orden;
+    for (int i = 0; i < 4; ++i) lista.Entradas[i] = {static_cast<std::uint32_t>(i), i % 2 == 0 ? i : 5};
     for (int i = 0; i < 4; ++i) orden += std::to_string(SiguienteMovimiento(lista, i, 4));
     EXPECT_EQ(orden, "1320");
 }

@@ -3,16 +3,12 @@
 #include "board/Puntuacion.h"
 #include "search/Ayudas.h"
 
-struct Leida {
-    int           Decide = 0, Puntos = 0;
-    std::uint32_t Movimiento = 0;
-
-    bool operator==(const Leida&) const = default;
-};
-static Leida Leer(int alfa, int beta, int profundidad) {
-    Leida leida;
-    leida.Decide = RecuperarPosicion(alfa, beta, profundidad, &leida.Puntos, &leida.Movimiento);
-    return leida;
+// What is read: whether it decides, score and move.
+static std::vector<int> Leer(int alfa, int beta, int profundidad) {
+    int           puntos     = 0;
+    std::uint32_t movimiento = 0;
+    const int     decide     = RecuperarPosicion(alfa, beta, profundidad, &puntos, &movimiento);
+    return {decide, puntos, static_cast<int>(movimiento)};
 }
 
 class Transposicion : public Busqueda {
@@ -61,9 +57,9 @@ TEST_F(Transposicion, UnMateSeGuardaPorSuDistanciaAlNodo) {
         TableroGlobal.Ply = 4;
         AlmacenarPosicion(5, signo * 31995, COTA_EXACTA, 1);
         TableroGlobal.Ply = 0;
-        EXPECT_EQ(Leer(-1, 1, 5).Puntos, signo * 31999);
+        EXPECT_EQ(Leer(-1, 1, 5)[1], signo * 31999);
         TableroGlobal.Ply = 2;
-        EXPECT_EQ(Leer(-1, 1, 5).Puntos, signo * 31997);
+        EXPECT_EQ(Leer(-1, 1, 5)[1], signo * 31997);
     }
 }
 
@@ -76,11 +72,11 @@ TEST_F(Transposicion, LaCotaYLaProfundidadDecidenSiCorta) {
                                                                 {+COTA_INFERIOR, 0, 101, 6, 0},
                                                                 {4, -500, 500, 6, 0}}) {
         AlmacenarPosicion(6, 100, cota, 7);
-        EXPECT_TRUE(Leer(alfa, beta, profundidad) == (Leida{decide, 100, 7})) << cota << " " << alfa << " " << beta;
+        EXPECT_EQ(Leer(alfa, beta, profundidad), std::vector({decide, 100, 7})) << cota << " " << alfa << " " << beta;
     }
     for (const std::uint64_t key : {TableroGlobal.Key ^ 2, std::uint64_t{0}}) {  // 0 meets an empty way
         TableroGlobal.Key = key;
-        EXPECT_TRUE(Leer(-1, 1, 0) == (Leida{0, -VALOR_INFINITO, 0}));
+        EXPECT_EQ(Leer(-1, 1, 0), std::vector({0, -VALOR_INFINITO, 0}));
     }
 }
 
@@ -88,7 +84,7 @@ TEST_F(Transposicion, SinMovimientoConservaElQueHabia) {
     AlmacenarPosicion(3, 10, COTA_EXACTA, 77);
     AlmacenarPosicion(200, 20, COTA_SUPERIOR, 0);
     EXPECT_EQ(MovimientoDeTabla(), 77U);
-    EXPECT_EQ(Leer(-1, 1, 126).Puntos, 20);  // deeper depths are kept as 126
+    EXPECT_EQ(Leer(-1, 1, 126)[1], 20);  // deeper depths are kept as 126
     EXPECT_EQ(TT_Opciones.Sobrescrituras, 1);
     EXPECT_EQ(TT_Opciones.Usadas, 1U);
 }

@@ -70,15 +70,11 @@ TEST(ComprobarTiempo, SinEntradaSoloCedeLaPrimeraIteracionSinFin) {
     PrepararBusqueda();
     close(Tubo);
     TipoJuego.LimiteTiempo = 0;
-    TipoJuego.Nodos        = 1U << 31;
-    ComprobarTiempo();
-    EXPECT_EQ(TipoJuego.Parar, 0);
-    TipoJuego.ProfundidadActual = 1;
-    TipoJuego.Nodos             = 1U << 29;
-    ComprobarTiempo();
-    EXPECT_EQ(TipoJuego.Parar, 0);
-    TipoJuego.Nodos = 1U << 31;
-    ComprobarTiempo();
-    EXPECT_EQ(TipoJuego.Parar, 1);
+    for (const auto& [iteracion, nodos, para] : {std::tuple{2, 1U << 31, 0}, {1, 1U << 29, 0}, {1, 1U << 31, 1}}) {
+        TipoJuego.ProfundidadActual = iteracion;
+        TipoJuego.Nodos             = nodos;
+        ComprobarTiempo();
+        EXPECT_EQ(TipoJuego.Parar, para);
+    }
     EXPECT_EQ(Salir, 0);
 }
