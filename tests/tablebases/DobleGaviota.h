@@ -2,11 +2,9 @@
 #pragma once
 
 struct DobleGaviota {
-    char        Registro[4096];  // the calls in order, "name(arguments) "
-    const char* Mensaje;         // answer of tb_init
-    unsigned    Iniciada;        // answer of tb_is_initialized and tbcache_is_on
-    unsigned    Disponibilidad;
-    int         Responde;  // answer of a probe
-    unsigned    Resultado;
-    unsigned    Plies;
+    char        Registro[4096];            // the calls in order, "name(arguments) "
+    const char* Mensaje;                   // answer of tb_init
+    unsigned    Iniciada, Disponibilidad;  // the first of tb_is_initialized and tbcache_is_on
+    int         Responde;                  // answer of a probe
+    unsigned    Resultado, Plies;
 };
