@@ -1,12 +1,59 @@
+#include "book/Libro.h"
+
+#include <sqlite3.h>
+
+#include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <set>
 #include <sstream>
 
-#include "book/CarpetaLibro.h"
+#include "book/LibroSql.h"
+#include "comun/Tablero.h"
 
 using Textos = std::vector<std::string>;
 
-using Libro = CarpetaLibro;
+static void EjecutarSql(sqlite3* base, const std::string& sql) {
+    ASSERT_EQ(sqlite3_exec(base, sql.c_str(), nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(base);
+}
+
+// Makes Book.db anew. definicion: what follows CREATE; each row is an SQL literal.
+static void CrearBook(const std::string& definicion, const std::vector<std::string>& filas = {}) {
+    std::filesystem::remove_all("Book.db");
+    sqlite3* base = nullptr;
+    ASSERT_EQ(sqlite3_open("Book.db", &base), SQLITE_OK);
+    EjecutarSql(base, "CREATE " + definicion);
+    for (const std::string& fila : filas) EjecutarSql(base, "INSERT INTO Book VALUES (" + fila + ")");
+    sqlite3_close(base);
+}
+static void EscribirLibro(const std::vector<std::string>& filas) {
+    CrearBook("TABLE Book (Partida TEXT)", filas);
+}
+
+// The "position" command with this text behind it.
+static void MandarPosicion(const std::string& texto) {
+    SeguirPartida(texto.c_str());
+    Position_Fen_Startpos(texto.c_str());
+}
+
+// A working directory of its own.
+class Libro : public Tablero {
+protected:
+    void SetUp() override {
+        Tablero::SetUp();
+        char plantilla[] = "/tmp/tamrek_libro_XXXXXX";
+        Carpeta          = mkdtemp(plantilla);
+        std::filesystem::current_path(Carpeta);
+        LibroSql.OwnBook = 1;
+    }
+    void TearDown() override {
+        std::filesystem::current_path("/");
+        std::filesystem::remove_all(Carpeta);
+    }
+
+private:
+    std::string Carpeta;
+};
 
 static void PartidaNueva() {
     LibroSql.Terminado = 0;
@@ -133,4 +180,115 @@ TEST_F(Libro, CadaLineaDelMotorSeJuegaEntera) {
         for (std::string jugada; jugadas >> jugada;) Jugar({jugada});
     }
     EXPECT_GE(lineas.size(), 600U);
+}
+
+// --- The "book" command ---
+
+static const std::string ANALIZANDO = "Analizando libro de aperturas...\n";
+static const std::string CORRECTO   = ANALIZANDO + "Libro de apertura correcto.\n";
+static const std::string CORRUPTO   = "Error: Libro de aperturas corrupto.\n";
+static const std::string CERRADO    = "Libro de apertura cargado: No.\n";
+
+static std::string Error(int codigo) {
+    return "Error en el libro de apertura.\nC\363digo de error: " + std::to_string(codigo) + "\n";
+}
+
+// Where the move parser prints its diagnosis, the output begins and ends so.
+TEST_F(Libro, SoloLaPrimeraJugadaDelLibroPuedeFallar) {
+    // clang-format off
+    const struct {
+        const char*              nombre;
+        std::vector<std::string> filas;
+        std::string              principio, fin;
+    } casos[] = {
+        {"legal lines", {"'e2e4 e7e5'", "'d2d4'"}, "", CORRECTO},
+        {"empty table", {}, "", CORRECTO},
+        {"illegal first move, no further row", {"'e2e5 e7e5'"}, "e2e5", "Libro de apertura correcto.\n"},
+        {"illegal first move", {"'e2e5 e7e5'", "'d2d4'"}, "e2e5", Error(100) + "Apertura incorrecta en: e2e5 e7e5\n"},
+        {"too long for the report", {"printf('%.*c', 101, 'x')", "'d2d4'"}, "xxxx",
+         Error(100) + "Apertura incorrecta en: \n"},
+        {"NULL first", {"NULL", "'d2d4'"}, "\n", Error(100) + "Apertura incorrecta en: \n"},
+        {"illegal later", {"'e2e4 e7e4'", "'e2e5'", "NULL", "''", "x'ff00ff'", "'e2'", "'e2e4q  e7e5qqqqqqqq'"}, "",
+         CORRECTO},
+        {"a promotion letter is read", {"'e2e4 e7e5'", "'h2h4 g7g5 h4g5 h7h6 g5h6 g8f6 h6h7 f6g8 h7g8q'"}, "",
+         CORRECTO},
+    };
+    // clang-format on
+    for (const auto& caso : casos) {
+        SCOPED_TRACE(caso.nombre);
+        EscribirLibro(caso.filas);
+        const std::string salida = Capturar(VerificarLibroApertura);
+        EXPECT_TRUE(salida.ends_with(caso.fin)) << salida;
+        EXPECT_TRUE(caso.principio.empty()
+                        ? salida == caso.fin
+                        : salida.starts_with(ANALIZANDO + "info string Movimiento ilegal: " + caso.principio))
+            << salida;
+        EXPECT_EQ(Salir + LibroSql.Terminado, 0);
+    }
+    EXPECT_EQ(TipoJuego.MovimientosJugados, 9);
+    EXPECT_EQ(TableroGlobal.Casillas[6], DAMA_B);
+}
+
+// What a look-up of one game and the command print.
+static void ProbarFichero(const std::string& consulta, const std::string& verificacion,
+                          const char* posicion = "startpos moves e2e4") {
+    PartidaNueva();
+    MandarPosicion(posicion);
+    EXPECT_EQ(Capturar([] { EXPECT_EQ(BuscarJugadaLibro(), 0); }), consulta);
+    EXPECT_EQ(LibroSql.Terminado, 1);
+    EXPECT_EQ(Capturar(VerificarLibroApertura), ANALIZANDO + verificacion);
+}
+
+TEST_F(Libro, FicherosQueNoSonUnLibro) {
+    ProbarFichero("", CORRUPTO);  // missing
+    std::filesystem::remove("Book.db");
+    std::filesystem::create_directory("Book.db");
+    ProbarFichero(CERRADO, CERRADO);
+    std::filesystem::remove("Book.db");
+    std::ofstream("Book.db") << std::string(5000, '#');
+    ProbarFichero("", CORRUPTO);
+    EscribirLibro({"'e2e4 e7e5'"});
+    std::filesystem::resize_file("Book.db", 1000);
+    ProbarFichero("", CORRUPTO);
+    for (const char* definicion : {"VIEW Book AS SELECT 'e2e4 e7e5' AS Linea",
+                                   "VIEW Book AS WITH RECURSIVE n(x) AS (SELECT 1 UNION ALL SELECT x + 1 FROM n) "
+                                   "SELECT 'e2e4 e7e5' AS Partida FROM n WHERE x < 0",
+                                   "TABLE Book (x, Partida TEXT AS ('e2e4 e7e5'))"}) {
+        CrearBook(definicion);
+        ProbarFichero("", CORRUPTO);
+    }
+}
+
+// The inner pages of this table name the next one 600 times each: a small file, and rows without end.
+TEST_F(Libro, FilasSinFin) {
+    EscribirLibro({"'d2d4 d7d5'"});
+    constexpr std::size_t PAGINA = 4096, CELDA = PAGINA - 5;
+    constexpr char        ULTIMA = 8;
+    std::ifstream         fichero("Book.db", std::ios::binary);
+    std::string           libro((std::istreambuf_iterator<char>(fichero)), {});
+    const std::string     hoja = libro.substr(PAGINA);
+    libro.resize(PAGINA);
+    libro[31] = ULTIMA;
+    for (char hija = 3; hija <= ULTIMA; ++hija) {
+        std::string pagina = std::string("\5\0\0\2\130\17\373\0\0\0\0", 11) + hija;
+        while (pagina.size() < 12 + 2 * 600) pagina += "\17\373";
+        pagina.resize(CELDA);
+        libro += pagina + std::string(3, '\0') + hija + '\1';
+    }
+    std::ofstream("Book.db", std::ios::binary) << libro << hoja;
+
+    const std::string error = Error(SQLITE_INTERRUPT);
+    for (const char* posicion : {"startpos moves e2e4", "startpos"})
+        ProbarFichero(error, error + "Apertura incorrecta en: d2d4 d7d5\n", posicion);
+}
+
+TEST_F(Libro, NoEsperaPorUnLibroBloqueado) {
+    EscribirLibro({"'e2e4 e7e5'"});
+    sqlite3* otro = nullptr;
+    ASSERT_EQ(sqlite3_open("Book.db", &otro), SQLITE_OK);
+    EjecutarSql(otro, "BEGIN EXCLUSIVE");
+    ProbarFichero("", Error(SQLITE_BUSY) + "Apertura incorrecta en: \n");
+    EjecutarSql(otro, "ROLLBACK");
+    sqlite3_close(otro);
+    EXPECT_EQ(Capturar(VerificarLibroApertura), CORRECTO);
 }
