@@ -1,5 +1,6 @@
 """crear_libro, the tool named as argument, with small collections."""
 import itertools
+import lzma
 import os
 import sqlite3
 import subprocess
@@ -7,6 +8,7 @@ import sys
 import tempfile
 import unittest
 
+CREAR_LIBRO = os.path.realpath(sys.argv[1])
 CONSULTA = "SELECT Partida FROM Book WHERE Partida LIKE 'e2e4%' LIMIT 15"
 
 
@@ -29,7 +31,14 @@ CASOS = (   # options, lines of the book
     (["-v2"], {"e2e4 e7e5 g1f3 b8c6"}),
     (["-v3"], {"e2e4"}),
     (["-v1", "-e2300"], {ITALIANA, SICILIANA, CORONACION}),
+    (["-v1", "-m4"], {ESPANOLA, ITALIANA, CORONACION}),
     (["-v1", "-r0-1", "-r1/2-1/2"], {ITALIANA, SICILIANA}),
+)
+SALTADAS = "4 games used, 4 skipped: 2 unrated, 1 not from the start position, 1 illegal"
+DISPARATES = (  # options, what is said
+    (["-e0"], "--elo: must be a number from 1 to"), (["-v0"], "--times: must be"), (["-p21"], "from 1 to 20"),
+    (["-p2", "-m3"], "--minimum is more than --plies"), (["-o", "/nowhere/Book.db"], "/nowhere/Book.db"),
+    (["-o", "/"], "/ is a folder"), (["nothing.pgn"], "nothing.pgn"), (["--list"], "not a database"),
 )
 
 
@@ -42,8 +51,11 @@ class CrearLibro(unittest.TestCase):
     def crear(self, texto, *opciones):
         with open(self.origen, "w", encoding="utf-8") as fichero:
             fichero.write(texto)
-        return subprocess.run([sys.executable, sys.argv[1], "-o", self.libro, *opciones, self.origen],
-                              capture_output=True, check=False).returncode
+        return self.llamar("-o", self.libro, *opciones, self.origen).returncode
+
+    @staticmethod
+    def llamar(*argumentos):
+        return subprocess.run([sys.executable, CREAR_LIBRO, *argumentos], capture_output=True, text=True, check=False)
 
     def leer(self, consulta="SELECT Partida FROM Book"):
         base = sqlite3.connect(self.libro)
@@ -58,6 +70,32 @@ class CrearLibro(unittest.TestCase):
         self.assertNotEqual(self.crear(COLECCION, "-v50"), 0)    # a failure leaves the old book
         self.assertEqual(len(self.leer()), 2)
 
+    def test_dice_lo_que_deja_y_lee_comprimidos(self):
+        with lzma.open(self.origen + ".pgn.xz", "wt", encoding="utf-8") as fichero:
+            fichero.write(COLECCION + partida("1. e4 e6", "?") + partida("1. e4 d6", "-"))
+        fin = self.llamar("-v1", "-e1000", "-o", self.libro, self.origen + ".pgn.xz")
+        self.assertIn(SALTADAS, fin.stderr)
+        self.assertRegex(fin.stderr, r"origen.pgn.xz:\d+: skipped: illegal move 2. Ke2")
+        self.assertCountEqual(self.leer(), {ESPANOLA, ITALIANA, SICILIANA, CORONACION})
+
+    def test_une_libros_y_los_cuenta(self):
+        otro, union = self.libro + ".2", self.libro + ".3"
+        self.crear(COLECCION, "-v1")
+        self.crear(f"{ESPANOLA} e1g1\nd2d4 g8f6", "--lines", "-o", otro)
+        self.assertEqual(self.llamar("-o", union, self.libro, otro).returncode, 0)
+        lista = self.llamar("--list", union, "--after", "e2e4 e7e5")
+        self.assertIn("5 lines of up to 8", lista.stdout)
+        self.assertRegex(lista.stdout, r"2 lines go on after e2e4 e7e5\n  g1f3 +2 100.0 %   the engine sees 2 of 2")
+
+    def test_lo_que_no_puede_ser_se_dice(self):
+        self.crear(COLECCION)
+        for opciones, motivo in DISPARATES:
+            with self.subTest(opciones):
+                fin = self.llamar("-o", self.libro, self.origen, *opciones)
+                self.assertNotEqual(fin.returncode, 0)
+                self.assertIn(motivo, fin.stderr)
+                self.assertNotIn("Traceback", fin.stderr)
+
     def test_las_primeras_filas_son_una_muestra(self):
         """Three replies in the proportion 8 : 4 : 3, small without index and large with it."""
         jugadas = ["".join(letras) for letras in itertools.product("abcdefgh", "12345678", repeat=2)]
@@ -66,7 +104,7 @@ class CrearLibro(unittest.TestCase):
             finales = itertools.islice(itertools.product(jugadas, jugadas[:8]), numero)
             lineas = [f"e2e4 {respuesta} {' '.join(final)}"
                       for respuesta, final in zip(itertools.cycle(respuestas), finales)]
-            self.crear("# a comment\n\n" + "\n".join(lineas), "--lineas")
+            self.crear("# a comment\n\n" + "\n".join(lineas), "--lines")
             self.assertCountEqual(self.leer(), lineas)
             self.assertEqual("INDEX Book_Partida" in self.leer("EXPLAIN QUERY PLAN " + CONSULTA)[0], numero == 24000)
             muestra = [fila[5:9] for fila in self.leer(CONSULTA)]

@@ -1,0 +1,16 @@
+# Puts the starter book LIBRO at DESTINO, beside the engine, unless a book that the user has put there would be lost.
+# MARCA keeps the checksum of what was put there last: a book with another one is the user's.
+file(SHA256 ${LIBRO} nuevo)
+set(colocado "")
+if(EXISTS ${MARCA})
+    file(READ ${MARCA} colocado)
+endif()
+if(EXISTS ${DESTINO})
+    file(SHA256 ${DESTINO} actual)
+    if(NOT actual STREQUAL colocado AND NOT actual STREQUAL nuevo)
+        message(STATUS "${DESTINO} is not the starter book: it stays. Remove it to get the starter book back.")
+        return()
+    endif()
+endif()
+file(WRITE ${MARCA} ${nuevo})
+configure_file(${LIBRO} ${DESTINO} COPYONLY)
