@@ -1,8 +1,8 @@
 // The real program on two pipes, for tests of what an interface sees.
 #pragma once
 
+#include <gtest/gtest.h>
 #include <poll.h>
-#include <regex.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -112,9 +112,5 @@ inline std::string Dialogar(const std::string& entrada, const std::vector<std::s
 
 // True when the whole text has the form of a POSIX extended regular expression.
 inline bool TieneForma(const std::string& texto, const std::string& expresion) {
-    regex_t forma;
-    if (regcomp(&forma, ("^(" + expresion + ")$").c_str(), REG_EXTENDED | REG_NOSUB) != 0) return false;
-    const bool coincide = regexec(&forma, texto.c_str(), 0, nullptr, 0) == 0;
-    regfree(&forma);
-    return coincide;
+    return testing::internal::RE::FullMatch(texto, expresion);
 }

@@ -101,18 +101,12 @@ TEST_F(Finales, PosicionesConocidas) {
 }
 
 TEST_F(Finales, ElGradienteLlevaAlMate) {
-    struct {
-        const char* nombre;
-        const char* peor;
-        const char* mejor;
-    } constexpr PARES[] = {
-        {"the edge", "8/8/8/4k3/8/8/8/KR6 w - - 0 1", "4k3/8/8/8/8/8/8/KR6 w - - 0 1"},
-        {"dark bishop", "k7/8/2K5/8/8/8/8/2B1N3 w - - 0 1", "7k/8/5K2/8/8/8/8/2B1N3 w - - 0 1"},
-        {"light bishop", "7k/8/5K2/8/8/8/8/3N1B2 w - - 0 1", "k7/8/2K5/8/8/8/8/3N1B2 w - - 0 1"},
-        {"out of the wrong corner", "k7/8/2K5/8/8/8/8/2B1N3 w - - 0 1", "3k4/8/2K5/8/8/8/8/2B1N3 w - - 0 1"},
-        {"a promotion pays", "4k3/8/4K3/4P3/8/8/8/8 b - - 0 1", "4k3/8/4K3/8/8/8/8/1R6 w - - 0 1"},
-    };
-    for (const auto& par : PARES) EXPECT_LT(Puntos(par.peor), Puntos(par.mejor)) << par.nombre;
+    for (const auto& [peor, mejor] :
+         {std::pair{"8/8/8/4k3/8/8/8/KR6 w - - 0 1", "4k3/8/8/8/8/8/8/KR6 w - - 0 1"},  // the edge
+          {"k7/8/2K5/8/8/8/8/2B1N3 w - - 0 1", "7k/8/5K2/8/8/8/8/2B1N3 w - - 0 1"},     // dark bishop: h8
+          {"7k/8/5K2/8/8/8/8/3N1B2 w - - 0 1", "k7/8/2K5/8/8/8/8/3N1B2 w - - 0 1"},     // light bishop: a8
+          {"4k3/8/4K3/4P3/8/8/8/8 b - - 0 1", "4k3/8/4K3/8/8/8/8/1R6 w - - 0 1"}})      // promotion pays
+        EXPECT_LT(Puntos(peor), Puntos(mejor)) << mejor;
 }
 
 // The total is that of the tablebases, which are asked about each position where they are at hand.

@@ -5,31 +5,24 @@
 
 #include <cstdint>
 
-TEST(Memoria, EntregaBloquesAlineadosYACero) {
-    for (const std::size_t bytes : {std::size_t{1}, PAGINA_GRANDE, PAGINA_GRANDE + 1, 7 * PAGINA_GRANDE}) {
+TEST(Memoria, EntregaYVaciaBloquesAlineadosYDevuelveLosGrandes) {
+    for (const std::size_t bytes :
+         {std::size_t{1}, PAGINA_GRANDE, PAGINA_GRANDE + 1, BLOQUE_ESCRITO, BLOQUE_ESCRITO + 1}) {
+        SCOPED_TRACE(bytes);
         char* const bloque = static_cast<char*>(ReservarMemoria(bytes));
-        ASSERT_NE(bloque, nullptr) << bytes;
-        EXPECT_EQ(reinterpret_cast<std::uintptr_t>(bloque) % 64, 0U) << bytes;
-        EXPECT_EQ(bloque[0] | bloque[bytes - 1], 0) << bytes;
-        bloque[0] = bloque[bytes - 1] = 1;
-        LiberarMemoria(bloque, bytes);
-    }
-    for (const std::size_t imposible : {std::size_t{0}, SIZE_MAX / 4, SIZE_MAX})
-        EXPECT_EQ(ReservarMemoria(imposible), nullptr);
-}
-
-TEST(Memoria, VaciaBloquesYDevuelveLosGrandes) {
-    for (const std::size_t bytes : {std::size_t{1}, BLOQUE_ESCRITO, BLOQUE_ESCRITO + 1}) {
-        char* const bloque = static_cast<char*>(ReservarMemoria(bytes));
-        ASSERT_NE(bloque, nullptr) << bytes;
-        const std::size_t medio = bytes / 2;
-        bloque[0] = bloque[medio] = bloque[bytes - 1] = 1;
-        EXPECT_EQ(VaciarMemoria(bloque, bytes), 1);
-        unsigned char presente = 0;
-        ASSERT_EQ(mincore(bloque, 1, &presente), 0);
-        EXPECT_EQ(presente & 1, bytes > BLOQUE_ESCRITO ? 0 : 1) << bytes;
-        EXPECT_EQ(bloque[0] | bloque[medio] | bloque[bytes - 1], 0) << bytes;
+        ASSERT_NE(bloque, nullptr);
+        EXPECT_EQ(reinterpret_cast<std::uintptr_t>(bloque) % 64, 0U);
+        for (const int vez : {0, 1}) {
+            EXPECT_EQ(bloque[0] | bloque[bytes / 2] | bloque[bytes - 1], 0) << vez;
+            bloque[0] = bloque[bytes / 2] = bloque[bytes - 1] = 1;
+            EXPECT_EQ(VaciarMemoria(bloque, bytes), 1);
+            unsigned char presente = 0;
+            ASSERT_EQ(mincore(bloque, 1, &presente), 0);
+            EXPECT_EQ(presente & 1, bytes > BLOQUE_ESCRITO ? 0 : 1);
+        }
         LiberarMemoria(bloque, bytes);
     }
     EXPECT_EQ(VaciarMemoria(nullptr, 0), 1);
+    for (const std::size_t imposible : {std::size_t{0}, SIZE_MAX / 4, SIZE_MAX})
+        EXPECT_EQ(ReservarMemoria(imposible), nullptr);
 }

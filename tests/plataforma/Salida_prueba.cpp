@@ -5,34 +5,32 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <functional>
 #include <string>
 #include <thread>
 
-// Standard output goes to this descriptor while an object lives.
-struct SalidaHacia {
-    int Anterior = dup(STDOUT_FILENO);
-    explicit SalidaHacia(int descriptor) { dup2(descriptor, STDOUT_FILENO); }
-    ~SalidaHacia() {
-        dup2(Anterior, STDOUT_FILENO);
-        close(Anterior);
-    }
-    SalidaHacia(const SalidaHacia&)            = delete;
-    SalidaHacia& operator=(const SalidaHacia&) = delete;
-};
+// Standard output goes to this descriptor meanwhile.
+static void ConSalida(int descriptor, const std::function<void()>& accion) {
+    const int anterior = dup(STDOUT_FILENO);
+    dup2(descriptor, STDOUT_FILENO);
+    accion();
+    dup2(anterior, STDOUT_FILENO);
+    close(anterior);
+}
 
 TEST(Salida, EsperaAlLectorNoAlDiscoYTerminaSinNinguno) {
     int tubo[2] = {-1, -1};
     ASSERT_EQ(pipe2(tubo, O_NONBLOCK), 0);
     const std::string largo(SALIDA_MAX, 'x');
     std::string       esperado, leido;
-    std::thread       escritor([&] {
-        const SalidaHacia salida(tubo[1]);
+    const auto        escribir = [&] {
         for (int i = 0; i < 300; ++i) {
             Imprimir("%d %s\n", i, largo.c_str());
             esperado += (std::to_string(i) + " " + largo).substr(0, SALIDA_MAX - 2) + "\n";
         }
-    });
-    char              bloque[65536];
+    };
+    std::thread escritor([&] { ConSalida(tubo[1], escribir); });
+    char        bloque[65536];
     while (leido.size() < 300 * (SALIDA_MAX - 1U)) {
         usleep(1000);  // the pipe is full most of the time
         const ssize_t n = read(tubo[0], bloque, sizeof bloque);
@@ -42,16 +40,9 @@ TEST(Salida, EsperaAlLectorNoAlDiscoYTerminaSinNinguno) {
     EXPECT_EQ(leido == esperado, true);
 
     std::signal(SIGPIPE, SIG_IGN);
-    const int lleno = open("/dev/full", O_WRONLY);
-    {
-        const SalidaHacia salida(lleno);
-        Imprimir("uciok\n");
-    }
+    ConSalida(open("/dev/full", O_WRONLY), [] { Imprimir("uciok\n"); });
     EXPECT_EQ(SalidaPerdida(), 0) << "a full disk";
     close(tubo[0]);
-    {
-        const SalidaHacia salida(tubo[1]);
-        Imprimir("uciok\n");
-    }
+    ConSalida(tubo[1], [] { Imprimir("uciok\n"); });
     EXPECT_EQ(SalidaPerdida(), 1);
 }

@@ -65,14 +65,6 @@ TEST_F(NodoDeBusqueda, MateYAhogadoNoSeGuardanYPuntuanDesdeLaRaiz) {
     EXPECT_EQ(TipoJuego.Nodos, nodos + 1);
 }
 
-TEST_F(NodoDeBusqueda, LaQuiescenciaGuardaSoloEnElPrimerNivel) {
-    Fen("4k3/8/8/3q4/4P3/8/8/4K3 w - - 0 1");
-    Qs(0, 1, 0);
-    EXPECT_EQ(MovimientoDeTabla(), 0U);
-    Qs(0, 1, 1);
-    EXPECT_EQ(MovimientoDeTabla(), Buscado("e4d5"));
-}
-
 TEST_F(NodoDeBusqueda, EnElUltimoPlyNoSeMueve) {
     Fen("7k/1p6/8/8/8/8/8/KR6 b - - 0 1");
     const char* const VUELTA[] = {"h8h7", "a1a2", "h7h8", "a2a1"};

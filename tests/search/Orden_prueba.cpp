@@ -60,13 +60,6 @@ TEST_F(Orden, Bandas) {
     }
 }
 
-TEST_F(Orden, EntreIgualesVaDelanteElPrimero) {
-    std::string orden;
-    for (int i = 0; i < 4; ++i) lista.Entradas[i] = {static_cast<std::uint32_t>(i), i % 2 == 0 ? i : 5};
-    for (int i = 0; i < 4; ++i) orden += std::to_string(SiguienteMovimiento(lista, i, 4));
-    EXPECT_EQ(orden, "1320");
-}
-
 TEST_F(Orden, UnCortePremiaSuJugadaYCastigaLasQueFallaron) {
     const std::uint32_t corte = Callada(ALFIL_N, 5, 26), otra = Callada(DAMA_N, 3, 19),
                         previa   = Callada(PEON_B, 52, 36);
