@@ -1,5 +1,4 @@
-// What tests of positions share: a fixed start, set-up by FEN and its mirror image, moves by their text, random games
-// and boards.
+// What tests of positions share: a fixed start, FENs and mirror images, moves by their text, random games and boards.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -52,9 +51,8 @@ inline void Reflejar() {
     for (int arriba = 0; arriba < 32; ++arriba) std::swap(t.Casillas[arriba], t.Casillas[arriba ^ 56]);
     for (int& pieza : t.Casillas)
         if (pieza != VACIO) pieza += pieza < VACIO ? DESFASE_NEGRO : -DESFASE_NEGRO;
-    std::swap(t.PosicionReyBlanco, t.PosicionReyNegro);
-    t.PosicionReyBlanco ^= 56;
-    t.PosicionReyNegro ^= 56;
+    const int rey_blanco = std::exchange(t.PosicionReyBlanco, t.PosicionReyNegro ^ 56);
+    t.PosicionReyNegro   = rey_blanco ^ 56;
     std::swap(t.EnroqueBlancas, t.EnroqueNegras);
     if (t.FichaAlPaso != 0) t.FichaAlPaso ^= 56;
     t.Turno     = 1 - t.Turno;

@@ -88,8 +88,6 @@ TEST(Afinar, ConoceElFicheroDeLosPesos) {
 TEST(Afinar, LosCoeficientesSonLosDeLaEvaluacion) {
     constexpr const char* POSICIONES[] = {
         "r1bq1rk1/pp3ppp/2n1p3/3pP3/N2P2Pb/4B3/PP2BP1P/R2Q1RK1 w - - 0 14",
-        "rn1qkb1r/p1p1pppp/8/1P6/R3p1b1/8/1PPPPPP1/2BQKBNR b Kkq - 1 7",
-        "r2qr1k1/pppn1ppp/8/2PP3b/2n1P3/2PQ1N1P/P4PP1/RNB1R1K1 w - - 3 14",
         "5r1k/1p4p1/5r1p/p6Q/P1PpBP2/3P2P1/1qP3K1/R7 w - - 7 31",
         "8/1p2R3/p1k5/3p4/4p2P/7r/PP1K4/8 b - - 5 43",
         "8/5pk1/8/5n2/8/2R5/5PK1/8 w - - 0 1",

@@ -27,23 +27,19 @@ static std::string Leer(int limite) {
 
 TEST(Entrada, EntregaLineasYTrozosSinEsperar) {
     const struct {
-        const char*              nombre;
-        std::string              bytes;
         int                      limite;
+        std::string              bytes;
         std::vector<std::string> lineas;
-    } casos[] = {
-        {"two lines at once", "stop\nisready\n", 80, {"stop", "isready"}},
-        {"CR goes with LF only", "\n\r\na\rb\r\r\n", 80, {"", "", "a\rb\r"}},
-        {"NUL ends the text, not the line", std::string("uci\0x\nquit\n", 11), 80, {"uci", "quit"}},
-        {"pieces of a long line", "abcdef\ng\n", 4, {"abc", "def", "", "g"}},
-    };
+    } casos[] = {{80, "stop\nisready\n", {"stop", "isready"}},              // two lines at once
+                 {80, "\n\r\na\rb\r\r\n", {"", "", "a\rb\r"}},              // CR goes with LF only
+                 {80, std::string("uci\0x\nquit\n", 11), {"uci", "quit"}},  // NUL ends the text, not the line
+                 {4, "abcdef\ng\n", {"abc", "def", "", "g"}}};              // pieces of a long line
     for (const auto& caso : casos) {
-        SCOPED_TRACE(caso.nombre);
         EXPECT_EQ(HayLinea(caso.limite), 0);
         Escribir(caso.bytes);
         for (const std::string& linea : caso.lineas) {
             EXPECT_EQ(HayLinea(caso.limite), 1);
-            EXPECT_EQ(Leer(caso.limite), linea);
+            EXPECT_EQ(Leer(caso.limite), linea) << caso.bytes;
         }
     }
     Escribir("quit\r");

@@ -8,27 +8,20 @@
 using Conductor = Busqueda;
 
 TEST_F(Conductor, EncuentraMatesYTablas) {
-    struct {
-        const char* Fen;
-        int         Iteraciones;
-        const char* Puntos;
-        const char* Jugada;
-    } constexpr CASOS[] = {
-        {"6k1/5ppp/8/8/8/8/8/R5K1 w - - 0 1", 2, "mate 1", "a1a8"},
-        {"r5k1/8/8/8/8/8/5PPP/6K1 b - - 0 1", 2, "mate 1", "a8a1"},
-        {"7k/5K2/8/8/8/8/8/6R1 b - - 0 1", 4, "mate -1", "h8h7"},
-        {"r5rk/5p1p/5R2/4B3/8/8/7P/7K w - - 0 1", 8, "mate 3", "f6a6"},
-        {"8/4k3/8/8/8/8/R7/1R4K1 w - - 0 1", 8, "mate 4", "b1b6"},
-        {"8/8/8/8/8/5k2/5p2/5K2 w - - 0 1", 4, "cp 0", ""},    // every move is stalemate or loses nothing
-        {"7k/8/6K1/8/8/8/8/6Q1 w - - 100 90", 4, "cp 0", ""},  // fifty moves are over before the mate in two
-        {"k7/8/8/8/8/8/qr6/7K w - - 99 90", 4, "cp 0", ""},    // and save the lost side
-    };
-    for (const auto& caso : CASOS) {
-        SCOPED_TRACE(caso.Fen);
+    for (const auto& [fen, iteraciones, puntos, jugada] : {
+             std::tuple{"6k1/5ppp/8/8/8/8/8/R5K1 w - - 0 1", 2, "mate 1", "a1a8"},
+             {"r5k1/8/8/8/8/8/5PPP/6K1 b - - 0 1", 2, "mate 1", "a8a1"},
+             {"7k/5K2/8/8/8/8/8/6R1 b - - 0 1", 4, "mate -1", "h8h7"},
+             {"r5rk/5p1p/5R2/4B3/8/8/7P/7K w - - 0 1", 8, "mate 3", "f6a6"},
+             {"8/4k3/8/8/8/8/R7/1R4K1 w - - 0 1", 8, "mate 4", "b1b6"},
+             {"8/8/8/8/8/5k2/5p2/5K2 w - - 0 1", 4, "cp 0", ""},    // every move is stalemate or loses nothing
+             {"7k/8/6K1/8/8/8/8/6Q1 w - - 100 90", 4, "cp 0", ""},  // fifty moves are over before the mate in two
+             {"k7/8/8/8/8/8/qr6/7K w - - 99 90", 4, "cp 0", ""},    // and save the lost side
+         }) {
         LimpiarBusqueda();
-        const Salida salida = Correr(caso.Fen, caso.Iteraciones + 1);
-        EXPECT_EQ(salida.Puntos, caso.Puntos);
-        EXPECT_TRUE(salida.Respuesta.starts_with(std::string("bestmove ") + caso.Jugada)) << salida.Respuesta;
+        const Salida salida = Correr(fen, iteraciones + 1);
+        EXPECT_EQ(salida.Puntos, puntos) << fen;
+        EXPECT_TRUE(salida.Respuesta.starts_with(std::string("bestmove ") + jugada)) << fen << salida.Respuesta;
     }
 }
 
@@ -40,11 +33,10 @@ TEST_F(Conductor, ElMateDosVecesTerminaSalvoSinLimite) {
 }
 
 TEST_F(Conductor, LaLineaFinalEsLaDelMateQueAnuncia) {
-    TipoJuego.ShowPv        = SHOWPV_NONE;
-    const Salida      mate  = Correr("r2qkb1r/pp2nppp/3p4/2pNN1B1/2BnP3/3P4/PPP2PPP/R2bK2R w KQkq - 1 1", 9);
-    const std::string linea = " score mate 2 pv d5f6 g7f6 c4f7 ";
+    TipoJuego.ShowPv  = SHOWPV_NONE;
+    const Salida mate = Correr("r2qkb1r/pp2nppp/3p4/2pNN1B1/2BnP3/3P4/PPP2PPP/R2bK2R w KQkq - 1 1", 9);
     ASSERT_EQ(mate.Iteraciones.size(), 1U);
-    EXPECT_NE(mate.Iteraciones[0].find(linea), std::string::npos) << mate.Iteraciones[0];
+    EXPECT_TRUE(mate.Iteraciones[0].ends_with(" score mate 2 pv d5f6 g7f6 c4f7 ")) << mate.Iteraciones[0];
 }
 
 TEST_F(Conductor, SinIteracionAcabadaRespondeLaPrimeraLegal) {
@@ -77,13 +69,11 @@ static std::string LineaInformativa(int puntos, int etiqueta) {
 }
 
 TEST_F(Conductor, LineaInformativa) {
-    for (const auto& [puntos, etiqueta, texto] : {std::tuple{200, 1, "cp 200 lowerbound"},
-                                                  {-200, -1, "cp -200 upperbound"},
-                                                  {31936, 0, "cp 31936"},
-                                                  {31937, 1, "mate 32"},
-                                                  {31997, 0, "mate 2"},
-                                                  {-31998, -1, "mate -1"},
-                                                  {-31996, 0, "mate -2"}}) {
+    // clang-format off
+    for (const auto& [puntos, etiqueta, texto] :
+         {std::tuple{200, 1, "cp 200 lowerbound"}, {-200, -1, "cp -200 upperbound"}, {31936, 0, "cp 31936"},
+          {31937, 1, "mate 32"}, {31997, 0, "mate 2"}, {-31998, -1, "mate -1"}, {-31996, 0, "mate -2"}}) {
+        // clang-format on
         const std::string linea = LineaInformativa(puntos, etiqueta);
         EXPECT_TRUE(linea.starts_with("info depth 3 seldepth 0 time "));
         EXPECT_TRUE(linea.ends_with(std::string(" hashfull 0 score ") + texto + " pv \n")) << linea;

@@ -33,21 +33,18 @@ protected:
 };
 
 TEST_F(Transposicion, ElTamanoSigueALaOpcionHash) {
-    struct {
-        int           Hash, Megas, Cache;
-        std::uint64_t Cubos, Entradas;
-    } constexpr CASOS[]          = {{0, 1, 0, 16384, 0},
-                                    {31, 31, 0, 507904, 0},
-                                    {32, 28, 4, 458752, 262144},
-                                    {36, 31, 5, 507904, 327680},
-                                    {64, 56, 8, 917504, 524288}};
-    const RegistroTT_Opciones& t = TT_Opciones;
-    for (const auto& caso : CASOS) {
-        SCOPED_TRACE(caso.Hash);
-        CrearTransposicion(caso.Hash);
-        EXPECT_TRUE(t.Megas == caso.Megas && t.MegasCache == caso.Cache && t.NumeroCubos == caso.Cubos);
-        EXPECT_TRUE(t.NumeroCache == caso.Entradas && (TT_Cache != nullptr) == (caso.Cache != 0));
-        EXPECT_EQ(DesempaquetarPuntos(TT_Datos[caso.Cubos].Vias[VIAS_CUBO - 1].Puntos), -VALOR_INFINITO);
+    constexpr unsigned CASOS[][5] = {{0, 1, 0, 16384, 0},
+                                     {31, 31, 0, 507904, 0},
+                                     {32, 28, 4, 458752, 262144},
+                                     {36, 31, 5, 507904, 327680},
+                                     {64, 56, 8, 917504, 524288}};
+    for (const auto& [hash, megas, cache, cubos, entradas] : CASOS) {
+        CrearTransposicion(static_cast<int>(hash));
+        const RegistroTT_Opciones& t = TT_Opciones;
+        EXPECT_TRUE(t.Megas == static_cast<int>(megas) && t.MegasCache == static_cast<int>(cache)) << hash;
+        EXPECT_TRUE(t.NumeroCubos == cubos && t.NumeroCache == entradas && (TT_Cache != nullptr) == (cache != 0))
+            << hash;
+        EXPECT_EQ(DesempaquetarPuntos(TT_Datos[cubos].Vias[VIAS_CUBO - 1].Puntos), -VALOR_INFINITO);
     }
 }
 
@@ -64,13 +61,14 @@ TEST_F(Transposicion, UnMateSeGuardaPorSuDistanciaAlNodo) {
 }
 
 TEST_F(Transposicion, LaCotaYLaProfundidadDecidenSiCorta) {
-    for (const auto& [cota, alfa, beta, profundidad, decide] : {std::tuple{+COTA_EXACTA, -500, 500, 6, 1},
-                                                                {+COTA_EXACTA, -500, 500, 7, 0},
-                                                                {+COTA_SUPERIOR, 100, 200, 6, 1},
-                                                                {+COTA_SUPERIOR, 99, 200, 6, 0},
-                                                                {+COTA_INFERIOR, 0, 100, 6, 1},
-                                                                {+COTA_INFERIOR, 0, 101, 6, 0},
-                                                                {4, -500, 500, 6, 0}}) {
+    constexpr int CASOS[][5] = {{COTA_EXACTA, -500, 500, 6, 1},
+                                {COTA_EXACTA, -500, 500, 7, 0},
+                                {COTA_SUPERIOR, 100, 200, 6, 1},
+                                {COTA_SUPERIOR, 99, 200, 6, 0},
+                                {COTA_INFERIOR, 0, 100, 6, 1},
+                                {COTA_INFERIOR, 0, 101, 6, 0},
+                                {4, -500, 500, 6, 0}};
+    for (const auto& [cota, alfa, beta, profundidad, decide] : CASOS) {
         AlmacenarPosicion(6, 100, cota, 7);
         EXPECT_EQ(Leer(alfa, beta, profundidad), std::vector({decide, 100, 7})) << cota << " " << alfa << " " << beta;
     }
