@@ -2,6 +2,7 @@
 
 #ifndef NDEBUG
 
+#include <algorithm>
 #include <cassert>
 #include <cstring>
 
@@ -9,6 +10,8 @@
 #include "board/Bando.h"
 #include "board/Color.h"
 #include "board/EstadoMotor.h"
+#include "board/Geometria.h"
+#include "board/Movimiento.h"
 #include "board/Tablero.h"
 
 struct Copia {
@@ -25,20 +28,57 @@ static void CopiarContadores(const RegistroBando& bando, int (&contadores)[5]) {
     contadores[4] = bando.Damas;
 }
 
-// Counters and king squares against the board. A position without exactly one king a side came from a foolish FEN
-// and promises nothing; then the answer is false.
-static bool Recontar() {
-    const RegistroTablero& t          = TableroGlobal;
-    int                    numero[16] = {};
-    for (const int pieza : t.Casillas) ++numero[pieza & 15];
-    if (Salir || numero[REY_B] != 1 || numero[REY_N] != 1) return false;
-    assert(t.Casillas[t.PosicionReyBlanco] == REY_B);
-    assert(t.Casillas[t.PosicionReyNegro] == REY_N);
+static long NumeroDe(int pieza, const RegistroTablero& t) {
+    return std::count(t.Casillas, t.Casillas + 64, pieza);
+}
+
+// Counters, king squares and the fields of the record against the board.
+static void Recontar() {
+    const RegistroTablero& t = TableroGlobal;
+    if (Salir) return;
+    assert(t.Turno == BLANCO || t.Turno == NEGRO);
+    assert(t.Ply >= 0 && t.Ply < PLIES_MAX && t.NumeroKeys >= 0 && t.NumeroKeys <= KEYS_MAX && t.Regla50 >= 0);
+    assert(t.EnroqueBlancas >= SIN_ENROQUE && t.EnroqueBlancas <= ENROCADO_CORTO);
+    assert(t.EnroqueNegras >= SIN_ENROQUE && t.EnroqueNegras <= ENROCADO_CORTO);
+    assert(t.FichaAlPaso == 0 || Fila(t.FichaAlPaso) == 3 || Fila(t.FichaAlPaso) == 4);
+    assert(NumeroDe(REY_B, t) != 1 || t.Casillas[t.PosicionReyBlanco] == REY_B);
+    assert(NumeroDe(REY_N, t) != 1 || t.Casillas[t.PosicionReyNegro] == REY_N);
     for (int pieza = PEON_B; pieza <= DAMA_B; ++pieza) {
-        assert(Blancas.*CONTADOR[pieza] == numero[pieza]);
-        assert(Negras.*CONTADOR[pieza] == numero[pieza + DESFASE_NEGRO]);
+        assert(Blancas.*CONTADOR[pieza] == NumeroDe(pieza, t));
+        assert(Negras.*CONTADOR[pieza] == NumeroDe(pieza + DESFASE_NEGRO, t));
     }
-    return true;
+}
+
+// What the word of a pawn may say, for a pawn of the side to move.
+static void ComprobarPeon(std::uint32_t mov) {
+    const bool blancas = TableroGlobal.Turno == BLANCO;
+    const int  avance  = blancas ? Desde(mov) - Hasta(mov) : Hasta(mov) - Desde(mov);
+    const bool recto   = Columna(Desde(mov)) == Columna(Hasta(mov));
+    assert(recto ? avance == (EsDobleAvance(mov) ? 16 : 8) : avance == 7 || avance == 9);
+    assert(recto != (EsCaptura(mov) || EsAlPaso(mov)));
+    assert(EsCoronacion(mov) == (Fila(Hasta(mov)) == (blancas ? 0 : 7)));
+    if (EsCoronacion(mov)) {
+        const int clase = PiezaCoronada(mov) - (blancas ? 0 : DESFASE_NEGRO);
+        assert(clase >= CABALLO_B && clase <= DAMA_B);
+    }
+    if (EsAlPaso(mov)) {
+        assert(!EsCaptura(mov) && TableroGlobal.FichaAlPaso != 0);
+        assert(TableroGlobal.Casillas[TableroGlobal.FichaAlPaso] == (blancas ? PEON_N : PEON_B));
+    }
+}
+
+static void ComprobarMovimiento(std::uint32_t mov) {
+    const RegistroTablero& t     = TableroGlobal;
+    const int              pieza = PiezaMovida(mov);
+    assert(EnTablero(Desde(mov)) && EnTablero(Hasta(mov)) && Desde(mov) != Hasta(mov));
+    assert(t.Casillas[Desde(mov)] == pieza && pieza != VACIO && EsBlanca(pieza) == (t.Turno == BLANCO));
+    assert(t.Casillas[Hasta(mov)] == (EsCaptura(mov) ? PiezaCapturada(mov) : VACIO));
+    assert(!EsCaptura(mov) || EsBlanca(PiezaCapturada(mov)) != EsBlanca(pieza));
+    assert(!EsEnroque(mov) || pieza == REY_B || pieza == REY_N);
+    if (pieza == PEON_B || pieza == PEON_N)
+        ComprobarPeon(mov);
+    else
+        assert(!EsCoronacion(mov) && !EsAlPaso(mov) && !EsDobleAvance(mov));
 }
 
 static bool MismosBytes(const void* a, const void* b, std::size_t bytes) {
@@ -46,15 +86,26 @@ static bool MismosBytes(const void* a, const void* b, std::size_t bytes) {
 }
 
 void GuardarCopiaTablero() {
+    Recontar();
     Copia& copia  = copias[TableroGlobal.Ply];
     copia.Tablero = TableroGlobal;
     CopiarContadores(Negras, copia.Contadores[NEGRO]);
     CopiarContadores(Blancas, copia.Contadores[BLANCO]);
 }
 
+void ComprobarAntesDeHacer(std::uint32_t movimiento, int en_jaque) {
+    if (!Salir) {
+        ComprobarMovimiento(movimiento);
+        assert(en_jaque != SIN_JAQUE || TurnoEnJaque() == SIN_JAQUE);
+    }
+    GuardarCopiaTablero();
+}
+
 void ComprobarHecho(int legal) {
     Recontar();
-    const RegistroTablero& t = TableroGlobal;
+    const RegistroTablero& t     = TableroGlobal;
+    const RegistroTablero& antes = copias[t.Ply - 1].Tablero;
+    assert(Salir || (NumeroDe(REY_B, t) == NumeroDe(REY_B, antes) && NumeroDe(REY_N, t) == NumeroDe(REY_N, antes)));
     assert(legal == (t.Turno == NEGRO ? !JaqueBlancas(t.PosicionReyBlanco) : !JaqueNegras(t.PosicionReyNegro)));
 }
 
@@ -81,9 +132,14 @@ void CompararCopiaTablero() {
 
 void ComprobarPosicion() {
     const RegistroTablero& t = TableroGlobal;
-    assert(t.Turno == BLANCO || t.Turno == NEGRO);
-    if (!Recontar() || t.Ply == 0) return;
+    Recontar();
+    if (Salir || t.Ply == 0) return;
     assert(t.Turno == BLANCO ? !JaqueNegras(t.PosicionReyNegro) : !JaqueBlancas(t.PosicionReyBlanco));
+}
+
+void ComprobarNodo(int en_jaque) {
+    ComprobarPosicion();
+    assert(Salir || en_jaque == TurnoEnJaque());
 }
 
 #endif

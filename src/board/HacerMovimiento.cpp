@@ -233,7 +233,7 @@ static void Deshacer(const EstadoDeshacer& estado) {
 }
 
 int HacerMovimientoConJaque(std::uint32_t movimiento, int en_jaque) {
-    COMPROBAR_ANTES_DE_HACER();
+    COMPROBAR_ANTES_DE_HACER(movimiento, en_jaque);
     const int legal =
         EsBlanca(PiezaMovida(movimiento)) ? Hacer<BLANCO>(movimiento, en_jaque) : Hacer<NEGRO>(movimiento, en_jaque);
     COMPROBAR_DESPUES_DE_HACER(legal);
@@ -257,7 +257,7 @@ void DeshacerMovimiento() {
 void HacerMovimientoNull() {
     RegistroTablero& t   = TableroGlobal;
     std::uint64_t    key = t.Key ^ zobrist_Turno;
-    COMPROBAR_ANTES_DE_HACER();
+    COMPROBAR_ANTES_DE_NULO();
     GuardarEstado(t.Deshacer[t.Ply].Movimiento);
     if (t.FichaAlPaso != 0) {
         key ^= zobrist_Tablero[FILA_AL_PASO][t.FichaAlPaso];

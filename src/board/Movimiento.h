@@ -48,6 +48,9 @@ constexpr bool EsCoronacion(std::uint32_t mov) {
 constexpr bool EsAlPaso(std::uint32_t mov) {
     return (mov & BIT_AL_PASO) != 0;
 }
+constexpr bool EsDobleAvance(std::uint32_t mov) {
+    return (mov & BIT_DOBLE_AVANCE) != 0;
+}
 constexpr bool EsEnroque(std::uint32_t mov) {
     return (mov & BIT_ENROQUE) != 0;
 }

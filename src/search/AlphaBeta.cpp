@@ -1,10 +1,12 @@
 #include "search/AlphaBeta.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 
 #include "board/Ataques.h"
 #include "board/Color.h"
+#include "board/Comprobacion.h"
 #include "board/EstadoMotor.h"
 #include "board/Generacion.h"
 #include "board/Geometria.h"
@@ -106,6 +108,7 @@ static void CancelarNull() {
 
 // Searches what follows when the side to move passes, for the side to move.
 static int BuscarNulo(const Nodo& nodo, int profundidad) {
+    assert(nodo.Ply > 0 && nodo.EnJaque == SIN_JAQUE);  // a side in check that passes loses its king
     HacerMovimientoNull();
     const int puntos = profundidad < 1
                            ? -AlphaBeta_Qs(-nodo.Beta, 1 - nodo.Beta, SIN_JAQUE, VENTANA_NULA, PRIMER_NIVEL)
@@ -262,6 +265,11 @@ static void GuardarLinea(const Nodo& nodo, int indice) {
 }
 
 int AlphaBeta_Pv(int profundidad, int alfa, int beta, int en_jaque, int sin_nulo, std::uint32_t previo) {
+    assert(alfa < beta);
+    assert(profundidad >= 0 && profundidad < PROFUNDIDAD_SIN_LIMITE + PLIES_MAX);  // extensions may outgrow the limit
+    assert(previo == SIN_PREVIO || TableroGlobal.Ply > 0);
+    COMPROBAR_NODO(en_jaque);
+
     // 1. Node count.
     ++TipoJuego.Nodos;
     Nodo nodo        = {};

@@ -1,6 +1,7 @@
 #include "search/Historico.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cstring>
 
 #include "board/Puntuacion.h"
@@ -51,6 +52,7 @@ void HistoricoActualizar(int profundidad, int puntos, std::uint32_t movimiento, 
                          const ListaMovimientos& lista, int legales) {
     Max_Historico = std::max(Max_Historico, SumarHistorico(movimiento, 2 * profundidad * profundidad));
     const int ply = TableroGlobal.Ply;
+    assert(EsTranquilo(movimiento) && ply < PLIES_MAX - 1 && legales >= 0 && legales <= MOVIMIENTOS_MAX);
     InsertarKiller(EsPuntuacionMate(puntos) ? Historico_Killer_Mate[ply] : Historico_Killer[ply], movimiento);
     ActualizarRechazado(previo, movimiento);
     HistoricoMalaPuntuacion(profundidad, lista, legales);

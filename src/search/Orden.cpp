@@ -1,5 +1,6 @@
 #include "search/Orden.h"
 
+#include <cassert>
 #include <utility>
 
 #include "search/Historico.h"
@@ -74,6 +75,7 @@ void OrdenarMovimientosTodos(int numero, std::uint32_t tabla, ListaMovimientos& 
 }
 
 std::uint32_t SiguienteMovimiento(ListaMovimientos& lista, int indice, int numero) {
+    assert(indice >= 0 && indice < numero && numero <= MOVIMIENTOS_MAX);
     int mejor = indice;
     for (int i = indice + 1; i < numero; ++i)
         if (lista.Entradas[i].Puntos > lista.Entradas[mejor].Puntos) mejor = i;

@@ -1,9 +1,11 @@
 #include "search/Quiescencia.h"
 
 #include <algorithm>
+#include <cassert>
 
 #include "board/Ataques.h"
 #include "board/Color.h"
+#include "board/Comprobacion.h"
 #include "board/EstadoMotor.h"
 #include "board/Generacion.h"
 #include "board/HacerMovimiento.h"
@@ -56,6 +58,9 @@ static bool EsCapturaPerdedora(std::uint32_t movimiento) {
 }
 
 int AlphaBeta_Qs(int alfa, int beta, int en_jaque, int ventana_nula, int primer_nivel) {
+    assert(alfa < beta);
+    COMPROBAR_NODO(en_jaque);
+
     // 1. Node count; a line of best play ends where quiescence begins.
     ++TipoJuego.Nodos;
     const int ply = TableroGlobal.Ply;

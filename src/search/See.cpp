@@ -134,6 +134,8 @@ std::uint32_t Obtener_Ataques_Menores(int casilla, int bando) {
 
 int See(std::uint32_t movimiento, int bando) {
     if (!EsCaptura(movimiento)) return 0;
+    assert(TableroGlobal.Casillas[Hasta(movimiento)] != VACIO && TableroGlobal.Casillas[Desde(movimiento)] == VACIO);
+    assert(bando == (EsBlanca(PiezaMovida(movimiento)) ? NEGRO : BLANCO));
     IniciarSee();
 
     // Value of the first captured piece, then by turns of the piece that bando takes and of the one retaken.

@@ -1,6 +1,7 @@
 #include "search/Transposicion.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cstddef>
 #include <limits>
 
@@ -153,6 +154,7 @@ static EntradaTransposicion& ElegirVia(CuboTransposicion& cubo) {
 }
 
 void AlmacenarPosicion(int profundidad, int puntos, int cota, std::uint32_t movimiento) {
+    assert(profundidad >= 0 && puntos >= -VALOR_INFINITO && puntos <= VALOR_INFINITO);
     if (TT_Datos == nullptr) return;
     EntradaTransposicion& via = ElegirVia(CuboActual());
     if (movimiento != 0 || via.Key != TableroGlobal.Key) via.Movimiento = movimiento;
