@@ -44,7 +44,9 @@ static std::uint64_t ClaveEnroque(int estado) {
     return zobrist_Tablero[FILA_ENROQUE][C == BLANCO ? 63 - estado : estado];
 }
 
-// Sets the castling state and adds its key; the key of the old state stays in.
+// Sets the castling state and adds its key. The key of the old state stays in, so Key tells paths apart that lose their
+// rights in another order: positions that look alike may then miss one another in the table, but never be confused.
+// Unmaking takes the saved key, since no arithmetic could find it again.
 template <int C>
 static void CambiarEnroque(int estado, std::uint64_t& key) {
     EnroqueDe<C>() = estado;
@@ -63,7 +65,9 @@ static void Enrocar(int hasta, std::uint64_t& key) {
     CambiarEnroque<C>(hasta > CASA_REY<C> ? ENROCADO_CORTO : ENROCADO_LARGO, key);
 }
 
-// A king or rook that moves gives up rights; the states after castling are left alone.
+// A king or rook that moves gives up rights; the states after castling are left alone, because the evaluation asks them
+// for the rest of the game. A rook that is captured in its corner takes no right along: generation asks whether the
+// corner holds a rook, and another rook that comes there is, deliberately, let castle.
 template <int C>
 static void PerderEnroque(int desde, int pieza, std::uint64_t& key) {
     const int estado = EnroqueDe<C>();
@@ -88,6 +92,7 @@ static void Coronar(int hasta, int coronada, std::uint64_t& key) {
     ++(BandoDe<C>().*CONTADOR[coronada]);
 }
 
+// What no reverse step can rebuild is saved before the move, the word of the move with it.
 static void GuardarEstado(std::uint32_t mov) {
     RegistroTablero& t  = TableroGlobal;
     EstadoDeshacer&  e  = t.Deshacer[t.Ply];
@@ -112,6 +117,8 @@ static void RestaurarEstado(const EstadoDeshacer& e) {
     t.Regla50           = e.Regla50;
 }
 
+// At the edge of the stacks the counters stop: the top entry is then written over, and unmaking is exact only below it.
+// "position" and the search keep away from both edges.
 static void CerrarMovimiento(std::uint64_t key) {
     RegistroTablero& t = TableroGlobal;
     t.Key              = key;
@@ -156,6 +163,7 @@ static int Hacer(std::uint32_t mov, int en_jaque) {
     std::uint64_t    key   = t.Key;
     GuardarEstado(mov);
 
+    // The king of a castling move travels below like any other piece; here go the rook and the state.
     if (EsEnroque(mov)) {
         Enrocar<C>(hasta, key);
     } else {
@@ -166,6 +174,8 @@ static int Hacer(std::uint32_t mov, int en_jaque) {
     t.Casillas[desde] = VACIO;
     key ^= zobrist_Tablero[pieza][desde] ^ zobrist_Tablero[pieza][hasta];
 
+    // After any other move the chance to capture en passant is gone. A double push in answer to a double push leaves
+    // the older key in, with the same effect as that of castling states.
     if ((mov & (BIT_AL_PASO | BIT_DOBLE_AVANCE)) != 0) {
         if (EsAlPaso(mov)) {
             key ^= zobrist_Tablero[PEON<RIVAL<C>>][t.FichaAlPaso];
@@ -181,6 +191,7 @@ static int Hacer(std::uint32_t mov, int en_jaque) {
         t.FichaAlPaso = 0;
     }
 
+    // The captured piece has been written over already; its key, its counter and the clock are left.
     ++t.Regla50;
     if (pieza == PEON<C>) t.Regla50 = 0;
     if (EsCaptura(mov)) {
@@ -196,10 +207,15 @@ static int Hacer(std::uint32_t mov, int en_jaque) {
     if (EsCoronacion(mov)) Coronar<C>(hasta, PiezaCoronada(mov), key);
 
     CerrarMovimiento(key ^ zobrist_Turno);
+    // In check every reply must be looked at in full: it has to parry the check besides exposing nothing. Out of check
+    // only three kinds of move can expose the king: its own, the en-passant capture, which empties two squares of a
+    // rank at once, and a piece that leaves a line to it. Dropping one of them lets illegal moves into the search.
     if (en_jaque != 0 || pieza == REY<C> || EsAlPaso(mov)) return ReyAtacado<C>() ^ 1;
     return LineaAbierta<C>(desde) ? 0 : 1;
 }
 
+// The steps of Hacer backwards. Which piece moved is read off the board, not off the word: a promoted pawn is put right
+// last, and whatever stood on the target comes back only after the mover has left it.
 template <int C>
 static void Deshacer(const EstadoDeshacer& estado) {
     RegistroTablero&    t     = TableroGlobal;

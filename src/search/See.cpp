@@ -10,6 +10,11 @@
 
 constexpr int CAPTURAS_BANDO = 20;  // captures of one side in an exchange; a board holds fewer attackers of a square
 
+// The exchange is played out on the squares of the board itself. Nothing else of the position is touched (no key, no
+// counters, no history), so making and taking back a capture costs a few stores, and the attack tests of the board work
+// as they are. Whoever reads more than squares and kings between SeeHacerMovimiento and SeeDeshacerMovimiento reads
+// what stood before.
+//
 // A capture of the exchange and what it destroys beside the squares that its word names.
 struct MovimientoSee {
     std::uint32_t Movimiento;
@@ -37,6 +42,8 @@ static void SeeDeshacerMovimiento() {
 }
 
 // Makes a capture of the colour on the squares alone. Returns 0 when its king is then attacked; the caller undoes it.
+// The test is made at every step because the exchange itself opens lines: a piece may be pinned now that was free when
+// the exchange began, and a king may join in once the last defender is gone.
 template <int C>
 static int SeeHacerMovimiento(std::uint32_t movimiento) {
     assert(SeeMove.Numero < 2 * CAPTURAS_BANDO);
@@ -84,6 +91,7 @@ static std::uint32_t CapturarConSalto(int pieza, const Saltos& saltos, int casil
     return 0;
 }
 
+// Looked along anew for each capture: the piece that has just captured may have uncovered another one behind it.
 // Where a look from a square ends in each direction: at the first piece, at the edge, or on the square itself when
 // it lies on that edge.
 struct Rayos {
@@ -114,6 +122,9 @@ static std::uint32_t CapturarConRayo(int pieza, const Rayos& rayos, int primera,
     return 0;
 }
 
+// From the cheapest piece to the dearest, since whoever recaptures risks least with the cheapest: with any other order
+// the sum of See would tell of an exchange that nobody plays. Within a kind the first one found serves. Bishops are
+// asked before rooks, and both before the queen, although one look has found them all.
 template <int C>
 static std::uint32_t AtaqueMenor(int casilla) {
     if (const auto peon = CapturarConPeon<C>(casilla)) return peon;
@@ -155,8 +166,13 @@ int See(std::uint32_t movimiento, int bando) {
         ganancias[numero++] = VALOR_PIEZA[static_cast<std::size_t>(PiezaCapturada(recaptura))];
         ++recapturas;
     }
+    // Last made, first undone: the same square changes hands each time.
     while (SeeMove.Numero > 0) SeeDeshacerMovimiento();
 
+    // Both sides are taken to go on as long as they can; nobody stops early, as a full exchange evaluation would let
+    // them. In return only as many gains count, beside the first one, as there were recaptures: a long exchange is
+    // judged by its first half, and without a recapture the first gain stands alone. The two errors offset one another,
+    // and the callers' thresholds at 0 are made for this sum.
     int suma = 0;
     for (int i = 0; i <= recapturas; ++i) suma += ganancias[i];
     return suma;

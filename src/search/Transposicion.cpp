@@ -38,6 +38,7 @@ static int CotaDe(const EntradaTransposicion& via) {
     return via.Info >> (2 * BITS_CAMPO);
 }
 
+// The fields end at their largest value instead of running into one another. What is no bound never decides a node.
 static std::uint16_t CrearInfo(int profundidad, int cota) {
     const int edad = std::clamp(TT_Opciones.Edad, EDAD_MIN, EDAD_MAX);
     const int tipo = cota > COTA_INFERIOR ? 0 : cota;
@@ -58,11 +59,15 @@ static int PuntosDesdeRaiz(int puntos) {
     return puntos;
 }
 
+// One bucket is one cache line: a probe waits for memory once, however many ways it looks at. The remainder uses every
+// bit of the key, and lets the table have any number of buckets instead of a power of two.
 static CuboTransposicion& CuboActual() {
     return TT_Datos[TableroGlobal.Key % TT_Opciones.NumeroCubos];
 }
 
-// The way that holds the current position, nullptr = none. Stores keep a key in one way at most.
+// The way that holds the current position, nullptr = none. Whole keys are compared, so that only positions whose 64
+// bits collide are confused. A store takes the way of its own key before any other, therefore a key stands in one way
+// at most and the first match is the only one.
 static const EntradaTransposicion* BuscarVia() {
     if (TT_Datos == nullptr) return nullptr;
     for (const EntradaTransposicion& via : CuboActual().Vias)
@@ -70,6 +75,8 @@ static const EntradaTransposicion* BuscarVia() {
     return nullptr;
 }
 
+// Evaluating a position costs far more than a probe, and the entries of the cache are small: an eighth of the memory
+// spares most repeated evaluations. A small table needs all it has.
 static void RepartirMemoria(int megas) {
     const int total         = std::clamp(megas, MEGAS_MIN, MEGAS_MAX);
     TT_Opciones.MegasCache  = total < MEGAS_CON_CACHE ? 0 : (total + PARTE_CACHE / 2) / PARTE_CACHE;
@@ -123,8 +130,10 @@ static void ContarUsada() {
     if (TT_Opciones.Usadas < VIAS_CUBO * TT_Opciones.NumeroCubos) ++TT_Opciones.Usadas;
 }
 
-// The way that a new position takes in a full bucket. Older entries go first; of two of the same age, deliberately,
-// the deeper one. Each step to an older candidate counts as used by this search.
+// The way that a new position takes in a full bucket. Older entries go first: their searches are over. Of two of the
+// same age the deeper one goes, deliberately: shallow ones are what a search keeps meeting, and a deep one is found
+// again by the move that its parent holds. Each step to an older candidate counts as used by this search, so that
+// "hashfull" also grows in a table that earlier searches have filled.
 static EntradaTransposicion& ElegirVictima(CuboTransposicion& cubo) {
     EntradaTransposicion* victima = &cubo.Vias[0];
     for (EntradaTransposicion& via : cubo.Vias) {
@@ -138,7 +147,8 @@ static EntradaTransposicion& ElegirVictima(CuboTransposicion& cubo) {
     return *victima;
 }
 
-// The way to write: that of the same key, an empty one, or the victim.
+// The way to write: that of the same key, an empty one, or the victim. Ways fill from the first one and are only
+// emptied all together, so no way behind an empty one can hold the key.
 static EntradaTransposicion& ElegirVia(CuboTransposicion& cubo) {
     for (EntradaTransposicion& via : cubo.Vias) {
         if (via.Key == TableroGlobal.Key) {
@@ -157,6 +167,7 @@ void AlmacenarPosicion(int profundidad, int puntos, int cota, std::uint32_t movi
     assert(profundidad >= 0 && puntos >= -VALOR_INFINITO && puntos <= VALOR_INFINITO);
     if (TT_Datos == nullptr) return;
     EntradaTransposicion& via = ElegirVia(CuboActual());
+    // A node that failed low knows no best move; that of an earlier visit is still the one to begin with.
     if (movimiento != 0 || via.Key != TableroGlobal.Key) via.Movimiento = movimiento;
     via.Key    = TableroGlobal.Key;
     via.Puntos = EmpaquetarPuntos(PuntosDesdeNodo(puntos));
@@ -172,15 +183,15 @@ int RecuperarPosicion(int alfa, int beta, int profundidad, int* puntos, std::uin
 
     *puntos     = DesempaquetarPuntos(via->Puntos);
     *movimiento = via->Movimiento;
-    if (ProfundidadDe(*via) < profundidad) return 0;
+    if (ProfundidadDe(*via) < profundidad) return 0;  // a shallower search proves nothing; its move is still welcome
 
     *puntos = PuntosDesdeRaiz(*puntos);
     switch (CotaDe(*via)) {
         case COTA_EXACTA:
             return 1;
-        case COTA_SUPERIOR:
+        case COTA_SUPERIOR:  // decides only when what the score can be at most is not above alfa
             return alfa >= std::min(beta, *puntos);
-        case COTA_INFERIOR:
+        case COTA_INFERIOR:  // only when what it is at least reaches beta
             return std::max(alfa, *puntos) >= beta;
         default:
             return 0;
@@ -192,6 +203,8 @@ std::uint32_t MovimientoDeTabla() {
     return via == nullptr ? 0 : via->Movimiento;
 }
 
+// The stored bound is compared as it is, a mate counted from the node included: this only saves a search that would
+// fail, and proves nothing.
 int DesaconsejaNulo(int alfa, int beta, int profundidad) {
     const EntradaTransposicion* via = BuscarVia();
     if (via == nullptr || CotaDe(*via) != COTA_SUPERIOR || ProfundidadDe(*via) < profundidad) return 0;
