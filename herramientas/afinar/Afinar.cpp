@@ -38,7 +38,7 @@ constexpr char USO[] =
     "  --solo A,B,...  tune these members of the record only\n"
     "  --salvo A,B,... leave these members as they are\n"
     "  --mezcla X      share of the game result in the target, 0 to 1; the rest is the strong engine's (0.5)\n"
-    "  --sigma X       centipawns by which a weight is expected to change, before any data (15)\n"
+    "  --sigma X       centipawns by which a weight is expected to change, before any data (60)\n"
     "  --suavidad X    centipawns by which neighbours in a table are expected to change differently; 0: any (5)\n"
     "  --pasadas N     end after so many passes at the latest (20)\n"
     "  --hilos N       threads (2)\n";

@@ -7,7 +7,7 @@
 #include "afinar/Regresion.h"
 
 struct TiranteMuelles {
-    double Sigma    = 15;  // centipawns by which a weight is expected to leave its starting value
+    double Sigma    = 60;  // centipawns by which a weight is expected to leave its starting value
     double Suavidad = 5;   // centipawns by which neighbours of a table are expected to leave it differently; 0: any
 };
 
