@@ -1,4 +1,5 @@
 #include "board/EstadoMotor.h"
 
-RegistroTipoJuego TipoJuego;
-int               Salir = 0;
+RegistroTipoJuego   TipoJuego;
+RegistroUciCompleto UciCompleto;
+int                 Salir = 0;

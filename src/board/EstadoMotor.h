@@ -3,8 +3,12 @@
 
 #include <cstdint>
 
+#include "board/Movimiento.h"
+
 constexpr int PROFUNDIDAD_MAX        = 32;                   // deepest iteration, in plies
 constexpr int PROFUNDIDAD_SIN_LIMITE = PROFUNDIDAD_MAX + 1;  // "no depth limit" in ProfundidadLimite
+
+constexpr std::uint64_t MASCARA_SONDEO = 2047;  // one node in 2048
 
 enum NivelShowPv : int { SHOWPV_NONE = 0, SHOWPV_MIDDLE = 1, SHOWPV_FULL = 2 };
 
@@ -24,5 +28,21 @@ struct RegistroTipoJuego {
     int           ShowPv;              // NivelShowPv
 };
 
-extern RegistroTipoJuego TipoJuego;
-extern int               Salir;  // 1 ends the program at the next return to the command loop
+// Full UCI, asked for by "--uci-completo": the switches and limits that it adds. While Activo is 0 all others have
+// their start values, and the engine answers as if the record did not exist.
+struct RegistroUciCompleto {
+    int           Activo;
+    int           MargenReloj;                     // option Move Overhead, milliseconds
+    std::uint64_t MascaraSondeo = MASCARA_SONDEO;  // nodes without any of these bits see to clock and input
+    std::uint64_t LimiteNodos;                     // nodes of this search, 0 = no limit
+    std::uint64_t TiempoTope;             // milliseconds after which a search ends even without a move of its own
+    int           MateBuscado;            // a mate in so many moves ends the search, 0 = none is looked for
+    int           SinFin;                 // 1 while only "stop", or "ponderhit", may bring the answer
+    int           Ponderando;             // 1 while the move of "go ponder" is not played yet
+    int           NumeroRaiz;             // root moves that are searched, 0 = all
+    std::uint32_t Raiz[MOVIMIENTOS_MAX];  // these moves
+};
+
+extern RegistroTipoJuego   TipoJuego;
+extern RegistroUciCompleto UciCompleto;
+extern int                 Salir;  // 1 ends the program at the next return to the command loop

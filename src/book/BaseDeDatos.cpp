@@ -2,10 +2,14 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
+#include <cassert>
+
 #include "book/LibroSql.h"
 
 constexpr char NOMBRE_LIBRO[]   = "file:Book.db";
 constexpr int  MODO_APERTURA    = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_URI;
+constexpr int  MODO_LECTURA     = SQLITE_OPEN_READONLY;
 constexpr char CONSULTA_TOTAL[] = "SELECT COUNT(Partida) FROM Book;";
 
 // Work is counted in instructions of SQLite's machine and in bytes, of the pages it fetches and of the texts it
@@ -32,11 +36,31 @@ static int TrabajoAgotado(void*) {
     return Trabajo > TrabajoMax ? 1 : 0;
 }
 
+static const char* Rutas[RUTAS_LIBRO_MAX];
+static int         NumeroRutas = 0;
+
+void FijarRutasLibro(const char* const* rutas, int numero) {
+    assert(numero <= RUTAS_LIBRO_MAX);
+    std::copy(rutas, rutas + numero, Rutas);
+    NumeroRutas = numero;
+}
+
+// A handle is left also by an attempt that failed.
+static int AbrirFichero() {
+    if (NumeroRutas == 0) return sqlite3_open_v2(NOMBRE_LIBRO, &LibroSql.Conexion, MODO_APERTURA, nullptr);
+    int codigo = SQLITE_CANTOPEN;
+    for (int i = 0; i < NumeroRutas && codigo != SQLITE_OK; ++i) {
+        sqlite3_close(LibroSql.Conexion);
+        codigo = sqlite3_open_v2(Rutas[i], &LibroSql.Conexion, MODO_LECTURA, nullptr);
+    }
+    return codigo;
+}
+
 int AbrirBaseDeDatos() {
     Trabajo       = 0;
     TrabajoMax    = TRABAJO_ESQUEMA;
     OctetosPagina = 0;
-    if (sqlite3_open_v2(NOMBRE_LIBRO, &LibroSql.Conexion, MODO_APERTURA, nullptr) != SQLITE_OK) return 0;
+    if (AbrirFichero() != SQLITE_OK) return 0;
     sqlite3_hard_heap_limit64(MEMORIA_MAX);
     sqlite3_progress_handler(LibroSql.Conexion, INSTRUCCIONES_POR_CONTROL, TrabajoAgotado, nullptr);
     return 1;

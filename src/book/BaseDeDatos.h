@@ -6,8 +6,14 @@
 // its end on any machine. A statement that exceeds it fails as on any other error.
 #pragma once
 
-// Opens Book.db in the working directory; a missing file is created empty. Returns 1, or 0 when it cannot be opened;
-// to be closed in either case.
+constexpr int RUTAS_LIBRO_MAX = 4;
+
+// From now on the book is the first of these files that can be opened; none of them is written or created. The texts
+// (UTF-8 paths, up to RUTAS_LIBRO_MAX) belong to the caller and must outlive the book. numero 0: as at the start.
+void FijarRutasLibro(const char* const* rutas, int numero);
+
+// Opens Book.db in the working directory; a missing file is created empty. With paths of its own, see above. Returns 1,
+// or 0 when it cannot be opened; to be closed in either case.
 int AbrirBaseDeDatos();
 
 // Makes sql, a query of the table Book, the current statement. Returns an SQLite result code; SQLITE_ERROR also when

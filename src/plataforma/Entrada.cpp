@@ -1,5 +1,6 @@
 #include "plataforma/Entrada.h"
 
+#include <algorithm>
 #include <cassert>
 #include <cstring>
 
@@ -59,6 +60,47 @@ int HayLinea(int limite) {
         Rellenar();
     }
     return 1;
+}
+
+// Room for new bytes; none when unread ones fill the buffer.
+static bool HayHueco() {
+    return Fin - Inicio < LINEA_MAX;
+}
+
+// The unread bytes from desde on move up to inicio.
+static void Retirar(int inicio, int desde) {
+    std::memmove(Bufer + inicio, Bufer + desde, static_cast<std::size_t>(Fin - desde));
+    Fin -= desde - inicio;
+}
+
+// The end of the whole line that starts at inicio, behind its LF; 0 while it has none. The last line may lack it.
+static int FinDeLinea(int inicio) {
+    const void* const salto = std::memchr(Bufer + inicio, '\n', static_cast<std::size_t>(Fin - inicio));
+    if (salto != nullptr) return static_cast<int>(static_cast<const char*>(salto) - Bufer) + 1;
+    return FinDeEntrada != 0 && inicio < Fin ? Fin : 0;
+}
+
+static void CopiarPrincipio(int inicio, int fin, char (&principio)[PRINCIPIO_MAX]) {
+    while (fin > inicio && (Bufer[fin - 1] == '\n' || Bufer[fin - 1] == '\r')) --fin;
+    const int letras = std::min(fin - inicio, PRINCIPIO_MAX - 1);
+    std::memcpy(principio, Bufer + inicio, static_cast<std::size_t>(letras));
+    principio[letras] = '\0';
+}
+
+int RevisarLineas(DestinoLinea (*tratar)(const char* principio), int esperar) {
+    if (esperar != 0 && FinDeEntrada == 0 && HayHueco()) Rellenar();
+    while (FinDeEntrada == 0 && HayHueco() && HayBytes() != 0) Rellenar();
+    for (int inicio = Inicio, fin = FinDeLinea(inicio); fin != 0; fin = FinDeLinea(inicio)) {
+        char principio[PRINCIPIO_MAX];
+        CopiarPrincipio(inicio, fin, principio);
+        const DestinoLinea destino = tratar(principio);
+        if (destino == LINEA_ULTIMA) break;
+        if (destino == LINEA_TOMADA)
+            Retirar(inicio, fin);
+        else
+            inicio = fin;
+    }
+    return FinDeEntrada == 0 && HayHueco() ? 1 : 0;
 }
 
 void AbandonarEntrada() {

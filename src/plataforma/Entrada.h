@@ -14,5 +14,15 @@ int LeerLinea(char* linea, int limite);
 // piece as long as the limit or with the end of input; 0 while there is nothing or only half a line. Never waits.
 int HayLinea(int limite);
 
+// What becomes of a waiting line that has been looked at.
+enum DestinoLinea : int { LINEA_TOMADA, LINEA_ESPERA, LINEA_ULTIMA };  // taken, left, left as the last one looked at
+
+// Shows the waiting whole lines to tratar, in the order of their arrival, without their line end and cut to
+// PRINCIPIO_MAX - 1 characters. Lines that it does not take are left for LeerLinea. esperar: 1 waits until the input
+// brings something new, 0 never waits. Returns 0 when nothing new can be seen any more: the input has ended, or lines
+// that nobody takes fill the buffer.
+int           RevisarLineas(DestinoLinea (*tratar)(const char* principio), int esperar);
+constexpr int PRINCIPIO_MAX = 80;
+
 // From now on the input counts as ended and nothing more is read from it.
 void AbandonarEntrada();

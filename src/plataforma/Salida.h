@@ -8,5 +8,13 @@ constexpr int SALIDA_MAX = 8192;  // bytes of one call; what is longer is cut, i
 // Prints one or more whole lines, with the format of printf.
 [[gnu::format(printf, 1, 2)]] void Imprimir(const char* formato, ...);
 
+// A rewriting of lines on their way out. linea: letras bytes with the line end; destino: room for FILTRADA_MAX bytes,
+// for the rewritten line with its line end. Returns their number; 0 drops the line.
+using FiltroSalida         = int (*)(const char* linea, int letras, char* destino);
+constexpr int FILTRADA_MAX = 2 * SALIDA_MAX + 16;
+
+// From now on every line passes through filtro; nullptr = none, as at the start.
+void FiltrarSalida(FiltroSalida filtro);
+
 // 1 once a line could not be delivered because nobody reads any more. Then the engine has to end.
 int SalidaPerdida();

@@ -264,6 +264,16 @@ static void GuardarLinea(const Nodo& nodo, int indice) {
     if (nodo.Ply == 0) Actualizar_Pv_Terminada(indice);
 }
 
+// Leaves the moves of "searchmoves" in the root's list; returns their number.
+static int FiltrarRaiz(ListaMovimientos& lista, int numero) {
+    if (UciCompleto.NumeroRaiz == 0) return numero;
+    int quedan = 0;
+    for (int i = 0; i < numero; ++i)
+        if (std::count(UciCompleto.Raiz, UciCompleto.Raiz + UciCompleto.NumeroRaiz, lista.Entradas[i].Movimiento) != 0)
+            lista.Entradas[quedan++] = lista.Entradas[i];
+    return quedan;
+}
+
 int AlphaBeta_Pv(int profundidad, int alfa, int beta, int en_jaque, int sin_nulo, std::uint32_t previo) {
     assert(alfa < beta);
     assert(profundidad >= 0 && profundidad < PROFUNDIDAD_SIN_LIMITE + PLIES_MAX);  // extensions may outgrow the limit
@@ -329,7 +339,8 @@ int AlphaBeta_Pv(int profundidad, int alfa, int beta, int en_jaque, int sin_nulo
     // 9. Generation and ordering. Refutations are kept under the move that led to a node, but deliberately looked up
     // under the hash move.
     ListaMovimientos lista;
-    const int        numero = GenerarMovimientos(GENERAR_TODOS, lista);
+    int              numero = GenerarMovimientos(GENERAR_TODOS, lista);
+    if (raiz) numero = FiltrarRaiz(lista, numero);
     OrdenarMovimientosTodos(numero, nodo.MovTabla, lista, ObtenerRechazado(nodo.MovTabla));
 
     // 10. The moves.
@@ -378,6 +389,7 @@ int AlphaBeta_Pv(int profundidad, int alfa, int beta, int en_jaque, int sin_nulo
     // 11. Mate, stalemate, or the best move's score. Neither of the first two is stored.
     if (nodo.Legales == 0) return en_jaque == EN_JAQUE ? nodo.Ply - VALOR_MATE : VALOR_TABLAS;
     if (raiz) RecuperarMejorRaiz();
+    if (raiz && UciCompleto.NumeroRaiz != 0) return nodo.Mejor;  // not the value of the position
     const int cota = nodo.Mejor <= alfa ? COTA_SUPERIOR : nodo.Mejor >= nodo.Beta ? COTA_INFERIOR : COTA_EXACTA;
     AlmacenarPosicion(profundidad, nodo.Mejor, cota, nodo.MejorMovimiento);
     return nodo.Mejor;

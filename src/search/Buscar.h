@@ -13,6 +13,10 @@ void Buscar();
 // stay in TipoJuego.Nodos until TerminarBusqueda.
 int BuscarIterativo();
 
+// Prints "bestmove" with the move of the last finished iteration, before it the "info" line when there was none yet.
+// puntos: what BuscarIterativo has returned.
+void ImprimirMejorJugada(int puntos);
+
 // Clears what belongs to one search (stop flag, counters, lines, history, killers) and ages the table.
 void TerminarBusqueda();
 

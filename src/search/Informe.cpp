@@ -33,6 +33,7 @@ static std::uint64_t NodosPorSegundo(std::uint64_t milisegundos) {
 static bool PermiteImprimir(int profundidad) {
     if (TipoJuego.Infinito == 1 || TipoJuego.ShowPv == SHOWPV_FULL) return true;
     if (TipoJuego.ShowPv != SHOWPV_MIDDLE) return false;
+    if (UciCompleto.Activo != 0) return true;
     if (TipoJuego.LimiteTiempo != 1) return 2 * profundidad >= TipoJuego.ProfundidadLimite;
     const std::uint64_t transcurrido = ObtenerMilisegundos() - TipoJuego.TiempoInicio;
     return transcurrido != 0 &&

@@ -7,15 +7,13 @@
 #include "plataforma/Reloj.h"
 #include "plataforma/Salida.h"
 #include "search/LineaPrincipal.h"
+#include "uci/SondeoCompleto.h"
 
-constexpr std::uint64_t NODOS_POR_SONDEO = 2048;  // a power of two
-constexpr int           LINEA_SONDEO     = 80;    // longest line a poll reads, terminating '\0' included
+constexpr int LINEA_SONDEO = 80;  // longest line a poll reads, terminating '\0' included
 
 // Boards full of queens hardly ever end their first iteration, which neither the clock nor the end of the input may
 // cut. "stop" does; when the input has ended nobody can send it, and after so many nodes (minutes) the search gives up.
 constexpr std::uint64_t NODOS_SIN_MANDO = 1'000'000'000;
-
-static_assert((NODOS_POR_SONDEO & (NODOS_POR_SONDEO - 1)) == 0);
 
 // The first iteration always ends, and no search is cut before it has a move to play.
 static bool SeAcaboElTiempo() {
@@ -38,8 +36,9 @@ static bool Entrada_StdIn() {
 
 // Called at every node, so the common path is this one test; clock and input wait for one node in 2048.
 void ComprobarTiempo() {
-    if ((TipoJuego.Nodos & (NODOS_POR_SONDEO - 1)) != 0) return;
+    if ((TipoJuego.Nodos & UciCompleto.MascaraSondeo) != 0) return;
+    const bool completo = UciCompleto.Activo != 0;
     if (SalidaPerdida() != 0) Salir = 1;
-    if (Salir != 0 || SeAcaboElTiempo()) TipoJuego.Parar = 1;
-    if (!Entrada_StdIn() && NoTieneFin()) TipoJuego.Parar = 1;
+    if (Salir != 0 || (completo ? LimiteCompletoAlcanzado() : SeAcaboElTiempo())) TipoJuego.Parar = 1;
+    if (!(completo ? AtenderEntrada() : Entrada_StdIn()) && NoTieneFin()) TipoJuego.Parar = 1;
 }

@@ -15,6 +15,7 @@
 #include "uci/Arranque.h"
 #include "uci/Go.h"
 #include "uci/Opciones.h"
+#include "uci/UciCompleto.h"
 
 // --- Commands; each takes the text behind its word ---
 
@@ -29,6 +30,7 @@ static void ComandoUci(const char* /*resto*/) {
     if (LibroSql.OwnBook != 0) LibroSql.OwnBook = ComprobarAccesoLibro();
     LimpiarLineaLibro();
     ImprimirOpciones();
+    ImprimirOpcionesCompletas();
     Imprimir("uciok\n");
 }
 
@@ -71,6 +73,7 @@ static const EntradaComando COMANDOS[] = {
 static void EjecutarLinea(const char* linea) {
     char              palabra[PALABRA_MAX];
     const char* const resto = Split_String(linea, palabra);
+    if (EjecutarCompleto(palabra, resto) != 0) return;
     for (const EntradaComando& comando : COMANDOS)
         if (std::strcmp(palabra, comando.Palabra) == 0) {
             comando.Ejecutar(resto);

@@ -53,7 +53,6 @@ void ImprimirOpciones() {
 }
 
 // --- "setoption" ---
-// A setter takes the value's text and returns 1, or 0 when the value is not acceptable and nothing has changed.
 
 // Unsigned, so that a number beyond 31 bits counts as too large, never as negative.
 static int LeerNumero(const char* valor, std::uint32_t* numero) {
@@ -124,12 +123,7 @@ static int FijarGaviotaTbPath(const char* valor) {
     return 1;
 }
 
-struct EntradaOpcion {
-    const char* Nombre;
-    int (*Fijar)(const char* valor);
-};
-
-static const EntradaOpcion OPCIONES[] = {
+const EntradaOpcion OPCIONES[NUMERO_OPCIONES] = {
     {"Hash", FijarHash},
     {"ShowPv", FijarShowPv},
     {"OwnBook", FijarOwnBook},
@@ -152,7 +146,7 @@ void ParseSetoption(const char* texto) {
     }
 
     const char* valor = resto + std::strspn(resto, " \t\r\v\f");
-    if (*valor == '\0') valor = "empty";
+    if (*valor == '\0') valor = VALOR_VACIO;
     for (const EntradaOpcion& opcion : OPCIONES)
         if (std::strcmp(nombre, opcion.Nombre) == 0 && opcion.Fijar(valor) == 0)
             Imprimir("info string Valor incorrecto para %s.\n", opcion.Nombre);

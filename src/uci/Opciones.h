@@ -6,6 +6,16 @@ constexpr int HASH_MAX   = 2048;  // what more is asked for is cut to this
 
 constexpr int VALOR_MAX = 252;  // longest text behind the word "value", its leading blanks included
 
+constexpr char VALOR_VACIO[] = "empty";  // stands for a value that is not given
+
+// A setter takes the value's text and returns 1, or 0 when the value is not acceptable and nothing has changed.
+struct EntradaOpcion {
+    const char* Nombre;
+    int (*Fijar)(const char* valor);
+};
+constexpr int              NUMERO_OPCIONES = 8;
+extern const EntradaOpcion OPCIONES[NUMERO_OPCIONES];
+
 // Sets the Hash option to its start value and creates the hash tables.
 void IniciarConfiguracion();
 

@@ -1,5 +1,4 @@
 // Entry point: reads the command line, then runs the command loop or the bench.
-//   tamrek [--semilla N] [bench [depth]]
 
 #include <cstdint>
 #include <cstdio>
@@ -9,16 +8,34 @@
 #include "board/EstadoMotor.h"
 #include "board/Palabras.h"
 #include "plataforma/Reloj.h"
+#include "plataforma/Salida.h"
 #include "uci/Arranque.h"
 #include "uci/Banco.h"
 #include "uci/LeerComandos.h"
+#include "uci/UciCompleto.h"
 
 constexpr int ERROR_DE_USO = 2;  // exit status
+
+// A build for a program that can give the engine no arguments.
+#ifdef TAMREK_UCI_COMPLETO
+constexpr int UCI_COMPLETO_DE_SERIE = 1;
+#else
+constexpr int UCI_COMPLETO_DE_SERIE = 0;
+#endif
+
+constexpr char USO[] =
+    "usage: tamrek [--uci-completo] [--semilla N] [bench [depth]]\n"
+    "  --uci-completo full UCI for today's interfaces: every \"go\" is answered, output in UTF-8\n"
+    "  --semilla N    seed of the hash keys and of the choice of book moves\n"
+    "  bench [depth]  searches fixed positions 1 to 32 plies deep, prints \"N nodes M nps\" at last and ends\n"
+    "  --help, --version\n"
+    "Without bench, Tamrek speaks the Universal Chess Interface on standard input and output.\n";
 
 struct Argumentos {
     int      HaySemilla;
     unsigned Semilla;
     int      Banco;  // depth of the bench, 0 = play
+    int      UciCompleto;
 };
 
 // Depth of the bench, 0 for a text that is none.
@@ -37,7 +54,9 @@ static int LeerArgumentos(int argc, char** argv, Argumentos& argumentos) {
             const bool hay_profundidad = i + 1 < argc && Es_Numero(argv[i + 1]) != 0;
             argumentos.Banco           = hay_profundidad ? LeerProfundidadBanco(argv[++i]) : PROFUNDIDAD_BANCO;
             if (argumentos.Banco == 0) return 0;
-        } else
+        } else if (std::strcmp(argv[i], "--uci-completo") == 0)
+            argumentos.UciCompleto = 1;
+        else
             return 0;
     }
     return 1;
@@ -48,15 +67,27 @@ static unsigned ElegirSemilla(const Argumentos& argumentos) {
     return argumentos.Banco != 0 ? SEMILLA_BANCO : static_cast<unsigned>(ObtenerMilisegundos());
 }
 
+// Answers an argument that asks for a text only. Returns 0 when there is none.
+static int ResponderInformacion(int argc, char** argv) {
+    if (argc != 2) return 0;
+    const bool ayuda = std::strcmp(argv[1], "--help") == 0;
+    if (!ayuda && std::strcmp(argv[1], "--version") != 0) return 0;
+    Imprimir("%s", ayuda ? USO : "Tamrek 0.6\n");
+    return 1;
+}
+
 int main(int argc, char** argv) {
+    if (ResponderInformacion(argc, argv) != 0) return EXIT_SUCCESS;
     Argumentos argumentos{};
+    argumentos.UciCompleto = UCI_COMPLETO_DE_SERIE;
     if (LeerArgumentos(argc, argv, argumentos) == 0) {
-        std::fprintf(stderr, "usage: tamrek [--semilla N] [bench [depth, 1..%d]]\n", PROFUNDIDAD_MAX);
+        std::fputs(USO, stderr);
         return ERROR_DE_USO;
     }
 
     int estado = EXIT_SUCCESS;
     Arrancar(ElegirSemilla(argumentos));
+    if (argumentos.UciCompleto != 0 && argumentos.Banco == 0) ActivarUciCompleto();
     if (argumentos.Banco == 0)
         LeerComandos();
     else if (EjecutarBanco(argumentos.Banco) == 0)

@@ -8,6 +8,7 @@
 #include <set>
 #include <sstream>
 
+#include "book/BaseDeDatos.h"
 #include "book/LibroSql.h"
 #include "comun/Tablero.h"
 
@@ -291,4 +292,16 @@ TEST_F(Libro, NoEsperaPorUnLibroBloqueado) {
     EjecutarSql(otro, "ROLLBACK");
     sqlite3_close(otro);
     EXPECT_EQ(Capturar(VerificarLibroApertura), CORRECTO);
+}
+
+TEST_F(Libro, RutasPropiasNiSeCreanNiSeEscriben) {
+    EscribirLibro({"'e2e4 e7e5'"});
+    std::filesystem::rename("Book.db", "otro.db");
+    std::filesystem::permissions("otro.db", std::filesystem::perms::owner_read);
+    const char* const rutas[] = {"falta.db", "otro.db"};
+    FijarRutasLibro(rutas, 2);
+    EXPECT_EQ(Responder({"startpos moves e2e4"}), "e7e5");
+    FijarRutasLibro(rutas, 1);
+    EXPECT_EQ(Capturar([] { EXPECT_EQ(BuscarJugadaLibro(), 0); }), "Libro de apertura cargado: No.\n");
+    EXPECT_EQ(std::filesystem::exists("falta.db") || std::filesystem::exists("Book.db"), false);
 }

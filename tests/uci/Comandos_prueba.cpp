@@ -51,9 +51,15 @@ TEST(Comandos, RespuestasExactas) {
     for (const auto& caso : casos) EXPECT_EQ(Dialogar(caso.entrada), caso.salida) << caso.nombre;
 }
 
-TEST(Comandos, ArgumentosDesconocidos) {
-    for (const std::vector<std::string>& argumentos :
-         {std::vector<std::string>{"-h"}, {"bench", "0"}, {"bench", "33"}, {"bench", "x"}, {"--semilla"}})
+TEST(Comandos, Argumentos) {
+    EXPECT_EQ(Dialogar("uci\n", {"--version"}), "Tamrek 0.6\n");
+    EXPECT_TRUE(Dialogar("uci\n", {"--help"}).starts_with("usage: tamrek "));
+    for (const std::vector<std::string>& argumentos : {std::vector<std::string>{"-h"},
+                                                       {"bench", "0"},
+                                                       {"bench", "33"},
+                                                       {"bench", "x"},
+                                                       {"--semilla"},
+                                                       {"--version", "x"}})
         EXPECT_EQ(Dialogar("uci\n", argumentos), "wait status 512") << argumentos.front();
 }
 
