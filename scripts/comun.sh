@@ -21,7 +21,7 @@ instalar() {
 
 # Packages that the engine is built from, and those that its tests need besides.
 PAQUETES_MOTOR=(g++ cmake ninja-build libsqlite3-dev python3)
-PAQUETES_PRUEBAS=(libgtest-dev libbenchmark-dev libeigen3-dev liblzma-dev pgn-extract)
+PAQUETES_PRUEBAS=(libgtest-dev libbenchmark-dev libeigen3-dev liblzma-dev pgn-extract parallel)
 PAQUETES_REVISION=(clang clang-format clang-tidy)
 
 # construir PRESET [cmake option ...] -- [build option ...]: configures and builds a preset; prints on failure, and
