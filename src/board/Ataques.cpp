@@ -1,47 +1,26 @@
 #include "board/Ataques.h"
 
 #include "board/Color.h"
+#include "board/Conjunto.h"
 #include "board/EstadoMotor.h"
-#include "board/Geometria.h"
 
-// A pawn of colour C attacks casilla from one rank behind it, as C counts ranks.
+// The squares from which a pawn of colour C attacks casilla are those that an enemy pawn there would attack.
 template <int C>
 static bool AtacaPeon(int casilla) {
-    const int detras = casilla - ADELANTE<C>;
-    if (!EnTablero(detras)) return false;
-    const int* casillas = TableroGlobal.Casillas;
-    return (Columna(casilla) != 0 && casillas[detras - 1] == PEON<C>) ||
-           (Columna(casilla) != 7 && casillas[detras + 1] == PEON<C>);
+    return (AtaquesDePeones<RIVAL<C>>(Bit(casilla)) & CasillasCon(PEON<C>)) != 0;
 }
 
-static bool AtacaSaltador(const Saltos& saltos, int pieza) {
-    for (int i = 0; i < saltos.Numero; ++i)
-        if (TableroGlobal.Casillas[saltos.Casillas[i]] == pieza) return true;
-    return false;
-}
-
-// The first piece on one of the rays from primera to ultima is pieza or a queen.
-static bool AtacaLinea(int casilla, int primera, int ultima, int pieza, int dama) {
-    for (int dir = primera; dir <= ultima; ++dir) {
-        int actual = casilla;
-        for (int pasos = ALCANCE[static_cast<unsigned>(casilla)][static_cast<unsigned>(dir)]; pasos > 0; --pasos) {
-            actual += PASO[dir];
-            const int encontrada = TableroGlobal.Casillas[actual];
-            if (encontrada == VACIO) continue;
-            if (encontrada == pieza || encontrada == dama) return true;
-            break;
-        }
-    }
-    return false;
-}
-
+// The lines are looked at from the target, and only when a piece stands on them that could use them.
 template <int C>
 static int AtacadaPor(int casilla) {
-    const auto indice = static_cast<unsigned>(casilla);
-    return AtacaPeon<C>(casilla) || AtacaSaltador(SALTOS_CABALLO[indice], CABALLO<C>) ||
-           AtacaLinea(casilla, 0, PRIMERA_RECTA - 1, ALFIL<C>, DAMA<C>) ||
-           AtacaLinea(casilla, PRIMERA_RECTA, DIRECCIONES - 1, TORRE<C>, DAMA<C>) ||
-           AtacaSaltador(SALTOS_REY[indice], REY<C>);
+    const auto     indice = static_cast<std::size_t>(casilla);
+    const Conjunto saltadores =
+        (ATAQUES_CABALLO[indice] & CasillasCon(CABALLO<C>)) | (ATAQUES_REY[indice] & CasillasCon(REY<C>));
+    const Conjunto en_diagonal = LINEAS_ALFIL[indice] & (CasillasCon(ALFIL<C>) | CasillasCon(DAMA<C>));
+    const Conjunto en_recta    = LINEAS_TORRE[indice] & (CasillasCon(TORRE<C>) | CasillasCon(DAMA<C>));
+    return saltadores != 0 || AtacaPeon<C>(casilla) ||
+           (en_diagonal != 0 && (AtaquesDiagonales(casilla, CasillasOcupadas()) & en_diagonal) != 0) ||
+           (en_recta != 0 && (AtaquesRectos(casilla, CasillasOcupadas()) & en_recta) != 0);
 }
 
 int JaqueNegras(int casilla) {

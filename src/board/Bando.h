@@ -1,8 +1,6 @@
 // The side records: piece counters kept by make/unmake, and what one evaluation accumulates for a side.
 #pragma once
 
-#include <cstdint>
-
 #include "board/Tablero.h"
 
 // Piece counters, and from Puntos_OP on the values of one evaluation.
@@ -28,9 +26,9 @@ struct RegistroBando {
 
     int Peones_Septima;  // own pawns on the side's seventh rank
 
-    // Sets of squares, bit n for square n. Nobody asks how often a square is in them.
-    std::uint64_t Defensa;    // own pieces that an own piece defends
-    std::uint64_t Objetivos;  // enemy pieces, king included, that an own piece attacks
+    // Nobody asks how often a square is in them.
+    Conjunto Defensa;    // own pieces that an own piece defends
+    Conjunto Objetivos;  // enemy pieces, king included, that an own piece attacks
 };
 extern RegistroBando Blancas;
 extern RegistroBando Negras;

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cassert>
 #include <cstring>
+#include <iterator>
 
 #include "board/Ataques.h"
 #include "board/Bando.h"
@@ -32,10 +33,25 @@ static long NumeroDe(int pieza, const RegistroTablero& t) {
     return std::count(t.Casillas, t.Casillas + 64, pieza);
 }
 
-// Counters, king squares and the fields of the record against the board.
+// The sets against the board that they shadow.
+static void ComprobarSombra(const RegistroTablero& t) {
+    Conjunto piezas[CODIGOS] = {};
+    Conjunto bandos[2]       = {};
+    for (int casilla = 0; casilla < 64; ++casilla) {
+        const int pieza = t.Casillas[casilla];
+        if (pieza == VACIO) continue;
+        piezas[pieza] |= Bit(casilla);
+        bandos[EsBlanca(pieza) ? BLANCO : NEGRO] |= Bit(casilla);
+    }
+    assert(std::equal(std::begin(piezas), std::end(piezas), t.Piezas));
+    assert(std::equal(std::begin(bandos), std::end(bandos), t.Bandos));
+}
+
+// Sets, counters, king squares and the fields of the record against the board.
 static void Recontar() {
     const RegistroTablero& t = TableroGlobal;
     if (Salir) return;
+    ComprobarSombra(t);
     assert(t.Turno == BLANCO || t.Turno == NEGRO);
     assert(t.Ply >= 0 && t.Ply < PLIES_MAX && t.NumeroKeys >= 0 && t.NumeroKeys <= KEYS_MAX && t.Regla50 >= 0);
     assert(t.EnroqueBlancas >= SIN_ENROQUE && t.EnroqueBlancas <= ENROCADO_CORTO);

@@ -1,25 +1,14 @@
-// Sets of squares: a 64-bit word whose bit n is square n. The board itself stays an array; generation and evaluation
-// read sets off it, and then a question about many squares (which of them does this bishop reach that no pawn covers?)
-// is one operation instead of a loop.
+// Operations on sets of squares. The board itself is an array that keeps its sets beside it; with them a question about
+// many squares (which of them does this bishop reach that no pawn covers?) is one operation instead of a loop.
 #pragma once
 
 #include <array>
 #include <bit>
 #include <cstddef>
-#include <cstdint>
-
-#if defined(__AVX512F__) || defined(__AVX2__)
-#include <immintrin.h>
-#endif
 
 #include "board/Color.h"
 #include "board/Geometria.h"
 
-using Conjunto = std::uint64_t;
-
-constexpr Conjunto Bit(int casilla) {
-    return Conjunto{1} << casilla;
-}
 constexpr bool Contiene(Conjunto conjunto, int casilla) {
     return ((conjunto >> casilla) & 1U) != 0;
 }
@@ -165,6 +154,21 @@ constexpr int PrimerObstaculo(Conjunto ocupadas) {
     return PASO[DIR] > 0 ? Primera(ocupadas) : Ultima(ocupadas);
 }
 
+namespace conjunto {
+
+constexpr std::array<Conjunto, 64> UnirRayos(int primera, int ultima) {
+    std::array<Conjunto, 64> tabla{};
+    for (std::size_t casilla = 0; casilla < 64; ++casilla)
+        for (int dir = primera; dir <= ultima; ++dir) tabla[casilla] |= RAYOS[casilla][static_cast<std::size_t>(dir)];
+    return tabla;
+}
+
+}  // namespace conjunto
+
+// The lines through a square: what a bishop and a rook would see on an empty board.
+inline constexpr std::array<Conjunto, 64> LINEAS_ALFIL = conjunto::UnirRayos(0, PRIMERA_RECTA - 1);
+inline constexpr std::array<Conjunto, 64> LINEAS_TORRE = conjunto::UnirRayos(PRIMERA_RECTA, DIRECCIONES - 1);
+
 // The squares that a line piece sees in one direction, the first occupied one included. No branch: where nothing
 // stands on the ray, the search for the first piece ends on the corner whose own ray in that direction is empty.
 template <int DIR>
@@ -187,54 +191,15 @@ inline Conjunto AtaquesRectos(int desde, Conjunto ocupadas) {
            VistaEnDireccion<DIR_MENOS_1>(casilla, ocupadas) | VistaEnDireccion<DIR_MAS_1>(casilla, ocupadas);
 }
 
-// The squares that the pieces of colour C occupy. A handful of vector comparisons read them off the board.
+// The squares that the pieces of colour C occupy, and those with any piece.
 template <int C>
 inline Conjunto CasillasDe() {
-    const int* casillas = TableroGlobal.Casillas;
-    Conjunto   propias  = 0;
-#if defined(__AVX512F__)
-    for (int i = 0; i < 64; i += 16) {
-        const __m512i   grupo  = _mm512_load_si512(casillas + i);
-        const __m512i   vacias = _mm512_set1_epi32(VACIO);
-        const __mmask16 bits =
-            C == BLANCO ? _mm512_cmplt_epi32_mask(grupo, vacias) : _mm512_cmpgt_epi32_mask(grupo, vacias);
-        propias |= Conjunto{bits} << i;
-    }
-#elif defined(__AVX2__)
-    for (int i = 0; i < 64; i += 8) {
-        const __m256i grupo  = _mm256_load_si256(reinterpret_cast<const __m256i*>(casillas + i));
-        const __m256i vacias = _mm256_set1_epi32(VACIO);
-        const __m256i suyas  = C == BLANCO ? _mm256_cmpgt_epi32(vacias, grupo) : _mm256_cmpgt_epi32(grupo, vacias);
-        const auto    bits   = static_cast<unsigned>(_mm256_movemask_ps(_mm256_castsi256_ps(suyas)));
-        propias |= Conjunto{bits} << i;
-    }
-#else
-    for (int i = 0; i < 64; ++i) propias |= Conjunto{EsPropia<C>(casillas[i])} << i;
-#endif
-    return propias;
+    return TableroGlobal.Bandos[C];
 }
-
-// The board with one byte a square, so that few vector comparisons find all squares of a piece code.
-struct CodigosTablero {
-    alignas(64) std::uint8_t Casillas[64];
-};
-
-inline CodigosTablero LeerTablero() {
-    CodigosTablero codigos;
-    for (int i = 0; i < 64; ++i) codigos.Casillas[i] = static_cast<std::uint8_t>(TableroGlobal.Casillas[i]);
-    return codigos;
+inline Conjunto CasillasOcupadas() {
+    return TableroGlobal.Bandos[BLANCO] | TableroGlobal.Bandos[NEGRO];
 }
-
-inline Conjunto CasillasCon(const CodigosTablero& codigos, int pieza) {
-#if defined(__AVX2__)
-    const auto*   mitades = reinterpret_cast<const __m256i*>(codigos.Casillas);
-    const __m256i buscada = _mm256_set1_epi8(static_cast<char>(pieza));
-    const auto    baja    = static_cast<unsigned>(_mm256_movemask_epi8(_mm256_cmpeq_epi8(mitades[0], buscada)));
-    const auto    alta    = static_cast<unsigned>(_mm256_movemask_epi8(_mm256_cmpeq_epi8(mitades[1], buscada)));
-    return Conjunto{alta} << 32 | baja;
-#else
-    Conjunto conjunto = 0;
-    for (int i = 0; i < 64; ++i) conjunto |= Conjunto{codigos.Casillas[i] == pieza} << i;
-    return conjunto;
-#endif
+// The squares that hold a piece code.
+inline Conjunto CasillasCon(int pieza) {
+    return TableroGlobal.Piezas[pieza];
 }

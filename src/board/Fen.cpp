@@ -29,7 +29,7 @@ static int PiezaDeLetra(char letra) {
 }
 
 static void ColocarPieza(int casilla, int pieza) {
-    TableroGlobal.Casillas[casilla] = pieza;
+    PonerPieza(casilla, pieza);
     if (pieza == REY_B) TableroGlobal.PosicionReyBlanco = casilla;
     if (pieza == REY_N) TableroGlobal.PosicionReyNegro = casilla;
     RegistroBando& bando = EsBlanca(pieza) ? Blancas : Negras;
@@ -45,12 +45,12 @@ static const char* LeerCasillas(const char* texto) {
             if (*texto >= '1' && *texto <= '8') {
                 const int fin = casilla + (*texto - '0');
                 if (fin > 64) return nullptr;
-                while (casilla < fin) TableroGlobal.Casillas[casilla++] = VACIO;
+                casilla = fin;
                 continue;
             }
             const int pieza = PiezaDeLetra(*texto);
             if (pieza == VACIO) {
-                if (*texto == ' ') TableroGlobal.Casillas[casilla] = 0;
+                if (*texto == ' ') PonerPieza(casilla, 0);
                 return nullptr;
             }
             ColocarPieza(casilla++, pieza);
@@ -101,6 +101,7 @@ int CargarFen(const char* texto) {
     t.PosicionReyBlanco = t.PosicionReyNegro = 0;
     t.EnroqueBlancas = t.EnroqueNegras = SIN_ENROQUE;
     t.FichaAlPaso                      = 0;
+    VaciarTablero();
 
     texto = LeerCasillas(texto);
     if (texto == nullptr) return 0;

@@ -5,6 +5,7 @@
 #include "board/Ataques.h"
 #include "board/Color.h"
 #include "board/Comprobacion.h"
+#include "board/Conjunto.h"
 #include "board/EstadoMotor.h"
 #include "board/Geometria.h"
 #include "board/Movimiento.h"
@@ -55,12 +56,10 @@ static void CambiarEnroque(int estado, std::uint64_t& key) {
 
 template <int C>
 static void Enrocar(int hasta, std::uint64_t& key) {
-    int*             casillas = TableroGlobal.Casillas;
-    const SaltoTorre torre    = TorreDelEnroque<C>(hasta);
-    const int        pieza    = casillas[torre.Desde];
-    PosicionReyDe<C>()        = hasta;
-    casillas[torre.Desde]     = VACIO;
-    casillas[torre.Hasta]     = pieza;
+    const SaltoTorre torre = TorreDelEnroque<C>(hasta);
+    const int        pieza = TableroGlobal.Casillas[torre.Desde];
+    PosicionReyDe<C>()     = hasta;
+    MoverPieza(torre.Desde, torre.Hasta);
     key ^= zobrist_Tablero[pieza][torre.Desde] ^ zobrist_Tablero[pieza][torre.Hasta];
     CambiarEnroque<C>(hasta > CASA_REY<C> ? ENROCADO_CORTO : ENROCADO_LARGO, key);
 }
@@ -87,7 +86,8 @@ static void Coronar(int hasta, int coronada, std::uint64_t& key) {
         return;
     }
     key ^= zobrist_Tablero[PEON<C>][hasta] ^ zobrist_Tablero[coronada][hasta];
-    TableroGlobal.Casillas[hasta] = coronada;
+    QuitarPieza(hasta);
+    PonerPieza(hasta, coronada);
     --BandoDe<C>().Peones;
     ++(BandoDe<C>().*CONTADOR[coronada]);
 }
@@ -143,15 +143,14 @@ static int ReyAtacado() {
 template <int C>
 static bool LineaAbierta(int desde) {
     constexpr int R   = RIVAL<C>;
-    int           rey = PosicionReyDe<C>();
-    const int     dir = LINEAS[static_cast<unsigned>(rey)][static_cast<unsigned>(desde)];
+    const auto    rey = static_cast<unsigned>(PosicionReyDe<C>());
+    const auto    dir = LINEAS[rey][static_cast<unsigned>(desde)];
     if (dir == SIN_LINEA) return false;
-    for (int pasos = ALCANCE[static_cast<unsigned>(rey)][static_cast<unsigned>(dir)]; pasos > 0; --pasos) {
-        rey += PASO[dir];
-        const int pieza = TableroGlobal.Casillas[rey];
-        if (pieza != VACIO) return pieza == DAMA<R> || pieza == (dir < PRIMERA_RECTA ? ALFIL<R> : TORRE<R>);
-    }
-    return false;
+    const Conjunto rayo      = RAYOS[rey][dir];
+    const Conjunto tiradores = rayo & (CasillasCon(DAMA<R>) | CasillasCon(dir < PRIMERA_RECTA ? ALFIL<R> : TORRE<R>));
+    if (tiradores == 0) return false;
+    const Conjunto ocupadas = rayo & CasillasOcupadas();
+    return Contiene(tiradores, PASO[dir] > 0 ? Primera(ocupadas) : Ultima(ocupadas));
 }
 
 template <int C>
@@ -170,8 +169,8 @@ static int Hacer(std::uint32_t mov, int en_jaque) {
         PerderEnroque<C>(desde, pieza, key);
         if (pieza == REY<C>) PosicionReyDe<C>() = hasta;
     }
-    t.Casillas[hasta] = pieza;
-    t.Casillas[desde] = VACIO;
+    if (EsCaptura(mov)) QuitarPieza(hasta);
+    MoverPieza(desde, hasta);
     key ^= zobrist_Tablero[pieza][desde] ^ zobrist_Tablero[pieza][hasta];
 
     // After any other move the chance to capture en passant is gone. A double push in answer to a double push leaves
@@ -179,7 +178,7 @@ static int Hacer(std::uint32_t mov, int en_jaque) {
     if ((mov & (BIT_AL_PASO | BIT_DOBLE_AVANCE)) != 0) {
         if (EsAlPaso(mov)) {
             key ^= zobrist_Tablero[PEON<RIVAL<C>>][t.FichaAlPaso];
-            t.Casillas[t.FichaAlPaso] = VACIO;
+            QuitarPieza(t.FichaAlPaso);
             --BandoDe<RIVAL<C>>().Peones;
             t.FichaAlPaso = 0;
         } else {
@@ -218,32 +217,30 @@ static int Hacer(std::uint32_t mov, int en_jaque) {
 // last, and whatever stood on the target comes back only after the mover has left it.
 template <int C>
 static void Deshacer(const EstadoDeshacer& estado) {
-    RegistroTablero&    t     = TableroGlobal;
     const std::uint32_t mov   = estado.Movimiento;
     const int           desde = Desde(mov);
     const int           hasta = Hasta(mov);
     if (EsEnroque(mov)) {
-        const SaltoTorre torre  = TorreDelEnroque<C>(hasta);
-        t.Casillas[torre.Desde] = t.Casillas[torre.Hasta];
-        t.Casillas[torre.Hasta] = VACIO;
+        const SaltoTorre torre = TorreDelEnroque<C>(hasta);
+        MoverPieza(torre.Hasta, torre.Desde);
     }
-    t.Casillas[desde] = t.Casillas[hasta];
-    t.Casillas[hasta] = VACIO;
+    if (EsCoronacion(mov)) {
+        QuitarPieza(hasta);
+        PonerPieza(hasta, PEON<C>);
+        ++BandoDe<C>().Peones;
+        --(BandoDe<C>().*CONTADOR[PiezaCoronada(mov)]);
+    }
+    MoverPieza(hasta, desde);
     if (EsAlPaso(mov)) {
-        t.Casillas[estado.FichaAlPaso] = PEON<RIVAL<C>>;
+        PonerPieza(estado.FichaAlPaso, PEON<RIVAL<C>>);
         ++BandoDe<RIVAL<C>>().Peones;
     } else if (EsCaptura(mov)) {
         const int capturada = PiezaCapturada(mov);
-        t.Casillas[hasta]   = capturada;
+        PonerPieza(hasta, capturada);
         if (CONTADOR[capturada] != nullptr)
             ++(BandoDe<RIVAL<C>>().*CONTADOR[capturada]);
         else
             Salir = 1;
-    }
-    if (EsCoronacion(mov)) {
-        t.Casillas[desde] = PEON<C>;
-        ++BandoDe<C>().Peones;
-        --(BandoDe<C>().*CONTADOR[PiezaCoronada(mov)]);
     }
     RestaurarEstado(estado);
 }

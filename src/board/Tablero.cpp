@@ -1,6 +1,7 @@
 #include "board/Tablero.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "board/Geometria.h"
 
@@ -11,6 +12,13 @@ constexpr int PLIES_REPETICION = 4;
 
 void CrearTablaCasillas() {
     for (int casilla = 0; casilla < 64; ++casilla) TableroGlobal.TablaCasillas[casilla] = ColorCasilla(casilla);
+}
+
+void VaciarTablero() {
+    RegistroTablero& t = TableroGlobal;
+    std::fill(std::begin(t.Casillas), std::end(t.Casillas), VACIO);
+    std::fill(std::begin(t.Piezas), std::end(t.Piezas), 0);
+    std::fill(std::begin(t.Bandos), std::end(t.Bandos), 0);
 }
 
 int Es_Tabla_Repeticion() {

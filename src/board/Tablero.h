@@ -37,6 +37,12 @@ enum Enroque : int {
     ENROCADO_CORTO = 5,
 };
 
+// A set of squares: bit n is square n.
+using Conjunto = std::uint64_t;
+constexpr Conjunto Bit(int casilla) {
+    return Conjunto{1} << casilla;
+}
+
 // What a move destroys; entry k belongs to the move made at Ply k.
 struct EstadoDeshacer {
     std::uint64_t Key;
@@ -66,8 +72,33 @@ struct RegistroTablero {
     std::uint64_t  Key;                      // Zobrist key; only making and unmaking moves and set-up write it
     int            TablaCasillas[64];        // colour of a square: 1 for a8 and h1, 0 for a1
     alignas(64) int Casillas[64];            // piece codes; 0 = a8, 7 = h8, 56 = a1, 63 = h1
+
+    // The shadow of Casillas, for questions about many squares at once. Debug builds recount it around every move.
+    Conjunto Piezas[CODIGOS];  // squares by piece code
+    Conjunto Bandos[2];        // occupied squares by colour, [Turno]
 };
 extern RegistroTablero TableroGlobal;
+
+// The only ways to change a square, so that Casillas and its shadow stay alike. A piece arrives on an empty square.
+inline void CambiarSombra(int pieza, Conjunto casillas) {
+    TableroGlobal.Piezas[pieza] ^= casillas;
+    TableroGlobal.Bandos[pieza < VACIO ? 1 : 0] ^= casillas;
+}
+inline void PonerPieza(int casilla, int pieza) {
+    TableroGlobal.Casillas[casilla] = pieza;
+    CambiarSombra(pieza, Bit(casilla));
+}
+inline void QuitarPieza(int casilla) {
+    CambiarSombra(TableroGlobal.Casillas[casilla], Bit(casilla));
+    TableroGlobal.Casillas[casilla] = VACIO;
+}
+inline void MoverPieza(int desde, int hasta) {
+    const int pieza               = TableroGlobal.Casillas[desde];
+    TableroGlobal.Casillas[desde] = VACIO;
+    TableroGlobal.Casillas[hasta] = pieza;
+    CambiarSombra(pieza, Bit(desde) ^ Bit(hasta));
+}
+void VaciarTablero();
 
 // Fills TablaCasillas. To be called before any position is set up.
 void CrearTablaCasillas();

@@ -4,15 +4,15 @@ ConjuntosBando Conjuntos[2];
 Conjunto       Ocupadas;
 
 template <int C>
-static void ReunirPiezas(const CodigosTablero& codigos) {
+static void ReunirPiezas() {
     ConjuntosBando& propios = Conjuntos[C];
-    propios.Peones          = CasillasCon(codigos, PEON<C>);
-    propios.Caballos        = CasillasCon(codigos, CABALLO<C>);
-    propios.Alfiles         = CasillasCon(codigos, ALFIL<C>);
-    propios.Torres          = CasillasCon(codigos, TORRE<C>);
-    propios.Damas           = CasillasCon(codigos, DAMA<C>);
-    propios.Rey             = CasillasCon(codigos, REY<C>);
-    propios.Todas = propios.Peones | propios.Caballos | propios.Alfiles | propios.Torres | propios.Damas | propios.Rey;
+    propios.Peones          = CasillasCon(PEON<C>);
+    propios.Caballos        = CasillasCon(CABALLO<C>);
+    propios.Alfiles         = CasillasCon(ALFIL<C>);
+    propios.Torres          = CasillasCon(TORRE<C>);
+    propios.Damas           = CasillasCon(DAMA<C>);
+    propios.Rey             = CasillasCon(REY<C>);
+    propios.Todas           = CasillasDe<C>();
 }
 
 template <int C>
@@ -55,9 +55,8 @@ static void DelimitarZonaRey() {
 }
 
 void ReunirConjuntos() {
-    const CodigosTablero codigos = LeerTablero();
-    ReunirPiezas<BLANCO>(codigos);
-    ReunirPiezas<NEGRO>(codigos);
+    ReunirPiezas<BLANCO>();
+    ReunirPiezas<NEGRO>();
     Ocupadas = Conjuntos[BLANCO].Todas | Conjuntos[NEGRO].Todas;
     EvaluarControlPeones<BLANCO>();
     EvaluarControlPeones<NEGRO>();

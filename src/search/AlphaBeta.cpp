@@ -7,6 +7,7 @@
 #include "board/Ataques.h"
 #include "board/Color.h"
 #include "board/Comprobacion.h"
+#include "board/Conjunto.h"
 #include "board/EstadoMotor.h"
 #include "board/Generacion.h"
 #include "board/Geometria.h"
@@ -86,9 +87,8 @@ static bool FigurasAdversarioNull() {
 }
 
 static bool HayPeonEnSeptima() {
-    const bool blancas = TableroGlobal.Turno == BLANCO;
-    const int* fila    = &TableroGlobal.Casillas[blancas ? 8 : 48];
-    return std::count(fila, fila + 8, blancas ? PEON_B : PEON_N) != 0;
+    return TableroGlobal.Turno == BLANCO ? (CasillasCon(PEON_B) & FilaEntera<BLANCO>(6)) != 0
+                                         : (CasillasCon(PEON_N) & FilaEntera<NEGRO>(6)) != 0;
 }
 
 static bool ExtensionPeonEnSeptima(std::uint32_t movimiento) {

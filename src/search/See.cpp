@@ -35,10 +35,11 @@ static void SeeDeshacerMovimiento() {
     const MovimientoSee& entrada    = SeeMove.Entradas[--SeeMove.Numero];
     const std::uint32_t  movimiento = entrada.Movimiento;
 
-    TableroGlobal.Casillas[Desde(movimiento)] = PiezaMovida(movimiento);
-    TableroGlobal.Casillas[Hasta(movimiento)] = EsCaptura(movimiento) ? PiezaCapturada(movimiento) : VACIO;
-    TableroGlobal.PosicionReyBlanco           = entrada.PosicionReyBlanco;
-    TableroGlobal.PosicionReyNegro            = entrada.PosicionReyNegro;
+    QuitarPieza(Hasta(movimiento));
+    PonerPieza(Desde(movimiento), PiezaMovida(movimiento));
+    if (EsCaptura(movimiento)) PonerPieza(Hasta(movimiento), PiezaCapturada(movimiento));
+    TableroGlobal.PosicionReyBlanco = entrada.PosicionReyBlanco;
+    TableroGlobal.PosicionReyNegro  = entrada.PosicionReyNegro;
 }
 
 // Makes a capture of the colour on the squares alone. Returns 0 when its king is then attacked; the caller undoes it.
@@ -49,9 +50,10 @@ static int SeeHacerMovimiento(std::uint32_t movimiento) {
     assert(SeeMove.Numero < 2 * CAPTURAS_BANDO);
     SeeMove.Entradas[SeeMove.Numero++] = {movimiento, TableroGlobal.PosicionReyBlanco, TableroGlobal.PosicionReyNegro};
 
-    const int pieza                           = PiezaMovida(movimiento);
-    TableroGlobal.Casillas[Desde(movimiento)] = VACIO;
-    TableroGlobal.Casillas[Hasta(movimiento)] = EsCoronacion(movimiento) ? PiezaCoronada(movimiento) : pieza;
+    const int pieza = PiezaMovida(movimiento);
+    QuitarPieza(Desde(movimiento));
+    if (EsCaptura(movimiento)) QuitarPieza(Hasta(movimiento));
+    PonerPieza(Hasta(movimiento), EsCoronacion(movimiento) ? PiezaCoronada(movimiento) : pieza);
     if (pieza == REY<C>) PosicionReyDe<C>() = Hasta(movimiento);
     return C == BLANCO ? !JaqueBlancas(TableroGlobal.PosicionReyBlanco) : !JaqueNegras(TableroGlobal.PosicionReyNegro);
 }

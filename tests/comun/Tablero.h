@@ -48,9 +48,11 @@ inline std::string Tras(const std::string& texto, const std::string& palabra) {
 // Exchanges colours, ranks and the side to move.
 inline void Reflejar() {
     RegistroTablero& t = TableroGlobal;
-    for (int arriba = 0; arriba < 32; ++arriba) std::swap(t.Casillas[arriba], t.Casillas[arriba ^ 56]);
-    for (int& pieza : t.Casillas)
-        if (pieza != VACIO) pieza += pieza < VACIO ? DESFASE_NEGRO : -DESFASE_NEGRO;
+    const RegistroTablero antes = t;
+    VaciarTablero();
+    for (int casilla = 0; casilla < 64; ++casilla)
+        if (const int pieza = antes.Casillas[casilla]; pieza != VACIO)
+            PonerPieza(casilla ^ 56, pieza + (pieza < VACIO ? DESFASE_NEGRO : -DESFASE_NEGRO));
     const int rey_blanco = std::exchange(t.PosicionReyBlanco, t.PosicionReyNegro ^ 56);
     t.PosicionReyNegro   = rey_blanco ^ 56;
     std::swap(t.EnroqueBlancas, t.EnroqueNegras);
