@@ -6,7 +6,8 @@ constexpr int TABLAS_MUERTAS   = 0;
 constexpr int PIEZAS_CON_REGLA = 5;  // no rule names more pieces, or more pawns, than these on the board
 constexpr int PEONES_CON_REGLA = 2;
 
-constexpr int VENTAJA_MENOR = 3;  // pawns that a minor piece is worth
+constexpr int VENTAJA_MENOR    = 3;  // pawns that a minor piece is worth
+constexpr int PEONES_COMPENSAN = 2;  // that many pawns make up for a lead as large; the defender gives a piece for one
 
 // What the material of two sides given in this order deserves, or no weight. After the practice and statistics of
 // pawnless endings (Fine; Nunn): what is drawn with best play, yet holds chances, keeps a part of its score.
@@ -64,9 +65,11 @@ static const int* FactorOrdenado(std::uint64_t enfrentadas) {
     // clang-format on
 }
 
-// A side that leads by at most a minor piece and has no pawn left hardly ever wins.
-static bool SoloUnMenorDeMas(int peones, int valor, int valorRival) {
-    return peones == 0 && valor > valorRival && valor - valorRival <= VENTAJA_MENOR;
+// A side that leads by at most a minor piece and has no pawn left hardly ever wins. Where the other side's pawns make
+// up for the lead, it is those pawns that play for the win, and nothing says that they will not.
+static bool SoloUnMenorDeMas(int ventaja, int peones, int peonesRival) {
+    if (peones > 0 || ventaja <= 0 || ventaja > VENTAJA_MENOR) return false;
+    return peonesRival < PEONES_COMPENSAN || ventaja > PEONES_COMPENSAN;
 }
 
 int FinalesReconocidos(int pb, int cb, int ab, int tb, int db, int pn, int cn, int an, int tn, int dn) {
@@ -77,9 +80,8 @@ int FinalesReconocidos(int pb, int cb, int ab, int tb, int db, int pn, int cn, i
     const int*          factor  = FactorOrdenado(Enfrentadas(blancas, negras));
     if (factor == nullptr) factor = FactorOrdenado(Enfrentadas(negras, blancas));
 
-    const int valorB = 3 * (cb + ab) + 5 * tb + 9 * db;
-    const int valorN = 3 * (cn + an) + 5 * tn + 9 * dn;
-    if (factor == nullptr && (SoloUnMenorDeMas(pb, valorB, valorN) || SoloUnMenorDeMas(pn, valorN, valorB)))
+    const int ventaja = 3 * (cb + ab - cn - an) + 5 * (tb - tn) + 9 * (db - dn);
+    if (factor == nullptr && (SoloUnMenorDeMas(ventaja, pb, pn) || SoloUnMenorDeMas(-ventaja, pn, pb)))
         factor = &PESOS.FACTOR_MENOR;
     if (factor == nullptr) return SIN_CAMBIO;
     Trazar(*factor, 1, BLANCO, Acumulador::Factor);
