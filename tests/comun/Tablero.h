@@ -47,7 +47,7 @@ inline std::string Tras(const std::string& texto, const std::string& palabra) {
 
 // Exchanges colours, ranks and the side to move.
 inline void Reflejar() {
-    RegistroTablero& t = TableroGlobal;
+    RegistroTablero&      t     = TableroGlobal;
     const RegistroTablero antes = t;
     VaciarTablero();
     for (int casilla = 0; casilla < 64; ++casilla)
