@@ -73,7 +73,8 @@ ParametrosGoCompleto LeerParametrosCompletos(const char* texto) {
 
 static std::int64_t RepartirReloj(std::int64_t util, std::int64_t incremento, std::int64_t movimientos) {
     const std::int64_t partes = movimientos > 0 ? std::min(movimientos, JUGADAS_PREVISTAS) : JUGADAS_PREVISTAS;
-    const double       parte  = static_cast<double>(util / partes) + static_cast<double>(incremento) * PARTE_INCREMENTO;
+    const auto         justa  = util / partes;  // whole milliseconds
+    const double       parte  = static_cast<double>(justa) + static_cast<double>(incremento) * PARTE_INCREMENTO;
     return static_cast<std::int64_t>(std::min(parte, static_cast<double>(util) * PARTE_MAX));
 }
 
