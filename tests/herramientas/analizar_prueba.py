@@ -164,7 +164,7 @@ class Analizar(unittest.TestCase):
             with subprocess.Popen(self.orden("list.fen", "-o", "parts", "--chunk", "3"), cwd=self.carpeta,
                                   stderr=subprocess.DEVNULL) as proceso:
                 diario = self.carpeta / "parts" / "journal.jsonl"
-                while not diario.exists() or diario.read_bytes().count(b"\n") < numero:
+                while proceso.poll() is None and (not diario.exists() or diario.read_bytes().count(b"\n") < numero):
                     time.sleep(0.01)
                 proceso.send_signal(senal)
             self.assertEqual(proceso.returncode, -signal.SIGKILL if senal == signal.SIGKILL else 130)
