@@ -163,11 +163,12 @@ static const char* LeerNombre(const char* texto, char (&nombre)[PALABRA_MAX]) {
 // Copies the value without the blanks around it. Returns false when it does not fit.
 static bool LeerValor(const char* texto, char (&valor)[VALOR_MAX + 1]) {
     constexpr char BLANCOS[] = " \t\r\v\f";
+    constexpr char VACIO[]   = "<empty>";  // the protocol's word for no text
     texto += std::strspn(texto, BLANCOS);
     std::size_t letras = std::strlen(texto);
     while (letras > 0 && std::strchr(BLANCOS, texto[letras - 1]) != nullptr) --letras;
     if (letras > VALOR_MAX) return false;
-    const bool vacio = letras == 0 || std::strncmp(texto, "<empty>", letras) == 0;
+    const bool vacio = letras == 0 || (letras == sizeof VACIO - 1 && std::memcmp(texto, VACIO, letras) == 0);
     std::snprintf(valor, sizeof valor, "%.*s", vacio ? VALOR_MAX : static_cast<int>(letras),
                   vacio ? VALOR_VACIO : texto);
     return true;
