@@ -11,6 +11,7 @@
 #include "eval/Terminos.h"
 #include "eval/finales/Dificiles.h"
 #include "eval/finales/Kpk.h"
+#include "eval/finales/Kqkp.h"
 #include "eval/finales/Reconocidos.h"
 #include "search/Transposicion.h"
 
@@ -123,4 +124,5 @@ void Iniciar_Asimetrico() {
 
 void Iniciar_Evaluacion() {
     IniciarKpk();
+    IniciarKqkp();
 }

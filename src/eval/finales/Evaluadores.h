@@ -72,8 +72,8 @@ int EvaluarTorreContraPeon(const RegistroFinal& pos);
 // NO_RECONOCIDO.
 int EvaluarTorrePeonContraTorre(const RegistroFinal& pos);
 
-// Queen against pawn. A rook or bishop pawn on its seventh rank beside its king draws by stalemate unless the stronger
-// king is near; any other loses.
+// Queen against pawn. On its seventh rank the pawn, mostly a rook or bishop pawn beside its king, may draw by
+// stalemate; further back it loses.
 int EvaluarDamaContraPeon(const RegistroFinal& pos);
 
 // Queen against rook and pawn: little when the rook on its third rank is held by the pawn, behind which the king stays;

@@ -4,6 +4,7 @@
 #include "board/Color.h"
 #include "eval/Pesos.h"
 #include "eval/finales/Evaluadores.h"
+#include "eval/finales/Kqkp.h"
 
 constexpr int VENTAJA_MAX      = RegistroPesos::VENTAJAS - 1;
 constexpr int PASOS_PEON_ATRAS = 5;  // a pawn that has this far to go, or more, loses
@@ -95,31 +96,13 @@ int EvaluarTorrePeonContraTorre(const RegistroFinal& pos) {
     return EsLucena(t) ? PESOS.TORRE_PEON_TORRE_LUCENA : NO_RECONOCIDO;
 }
 
-constexpr int SEPTIMA_DEBIL   = 6;  // of the weaker side, as Fila() counts
-constexpr int COLUMNA_ALFIL_C = 2;
-
-// The stronger king reaches the mating net around a1 or c1 in time. The pawn is on the left half of the board; all
-// squares are given as Fila() and Columna() count. On the bishop file the defender's long side needs a wider zone,
-// because there its king can leave the stalemate corner.
-static bool ReyALaVista(int rey, int peon, int reyDebil) {
-    if (Columna(peon) == 0) return Columna(rey) <= 3 && Fila(rey) >= 5;
-    const bool lado_corto = Columna(reyDebil) < COLUMNA_ALFIL_C;
-    return lado_corto ? Columna(rey) <= 4 && Fila(rey) >= 5 : Columna(rey) <= 5 && Fila(rey) >= 4;
-}
-
-// The weaker king beside its rook or bishop pawn on the seventh: taking the pawn leaves it no move.
-static bool EsAhogado(const RegistroFinal& pos) {
-    const int espejo = Columna(Una(pos, PEON_N)) < 4 ? 0 : 7;
-    const int peon   = Una(pos, PEON_N) ^ espejo;
-    const int debil  = Una(pos, REY_N) ^ espejo;
-    const int meta   = peon + 8;
-    if (Fila(peon) != SEPTIMA_DEBIL || (Columna(peon) != 0 && Columna(peon) != COLUMNA_ALFIL_C)) return false;
-    // In front of its own rook pawn the king may be shut in; a move later it stands beside it or is lost.
-    if (DistanciaRey(debil, meta) > 1 || (Columna(peon) == 0 && debil == meta)) return false;
-    return !ReyALaVista(Una(pos, REY_B) ^ espejo, peon, debil);
-}
+constexpr int SEPTIMA_DEBIL = 6;  // of the weaker side, as Fila() counts
 
 int EvaluarDamaContraPeon(const RegistroFinal& pos) {
-    const int cercania = PESOS.DAMA_PEON_CERCANIA * (7 - DistanciaRey(Una(pos, REY_B), Una(pos, PEON_N)));
-    return EsAhogado(pos) ? PESOS.DAMA_PEON_TABLAS : PESOS.DAMA_PEON_GANADA + cercania;
+    const int  rey  = Una(pos, REY_B);
+    const int  peon = Una(pos, PEON_N);
+    const bool gana =
+        Fila(peon) != SEPTIMA_DEBIL || KqkpGana(rey, Una(pos, DAMA_B), Una(pos, REY_N), peon, pos.MueveFuerte) == 1;
+    const int cerca = PESOS.DAMA_PEON_CERCANIA * (7 - DistanciaRey(rey, peon));
+    return gana ? PESOS.DAMA_PEON_GANADA + cerca : PESOS.DAMA_PEON_TABLAS;
 }
