@@ -311,49 +311,25 @@ struct RegistroPesos {
     int PELIGRO_CON_DAMA         = 17;  // to begin with, by whether the attacker has a queen
     int PELIGRO_SIN_DAMA         = -75;
 
-    // ---- Endings recognised by their material: percentage of the normal score, stronger side first. Never 0, which
-    // would make a dead draw of them.
-    // A minor piece ahead without pawns, and equal pieces.
-    int FACTOR_R_R   = 10;
-    int FACTOR_Q_Q   = 10;
-    int FACTOR_BN_B  = 10;
-    int FACTOR_BB_B  = 10;
-    int FACTOR_RN_R  = 10;
-    int FACTOR_R_BB  = 10;
-    int FACTOR_R_BN  = 10;
-    int FACTOR_R_NN  = 10;
-    int FACTOR_Q_RR  = 10;
-    int FACTOR_R_B   = 20;
-    int FACTOR_R_N   = 20;
-    int FACTOR_BN_N  = 20;
-    int FACTOR_Q_RB  = 20;
-    int FACTOR_Q_RN  = 20;
-    int FACTOR_Q_NN  = 20;
-    int FACTOR_QB_Q  = 20;
-    int FACTOR_QN_Q  = 20;
-    int FACTOR_RB_R  = 25;
-    // Won in theory, but slowly: fifty moves are often not enough.
-    int FACTOR_BB_N  = 60;
+    // ---- Endings recognised by their material: percentage of the normal score. Never 0, which would make a dead draw
+    // of them.
+    int FACTOR_MENOR       = 10;  // no pawn to promote, and a minor piece ahead at most
+    int FACTOR_ULTIMO_PEON = 50;  // one pawn on the board: the defender gives up a piece for it
+    int FACTOR_UNO_A_UNO   = 20;  // a pawn each, level pieces without queens
+    int FACTOR_DOS_A_UNO   = 70;  // two pawns against one, level pieces
+    // Those that are better or worse than their kind, stronger side first.
+    int FACTOR_BB_N  = 30;  // won in theory, but slowly: fifty moves are often not enough
     int FACTOR_Q_BB  = 60;
     int FACTOR_Q_BN  = 60;
-    // The defender gives up its piece for the last pawn.
-    int FACTOR_BP_B  = 45;
-    int FACTOR_BP_N  = 55;
-    int FACTOR_NP_B  = 55;
-    int FACTOR_NP_N  = 55;
-    int FACTOR_RP_R  = 70;
-    int FACTOR_QP_Q  = 60;
-    int FACTOR_RPP_R = 85;
-    int FACTOR_QPP_Q = 85;
-    // Only the pawns can win, or the piece has nothing to win with.
-    int FACTOR_N_P   = 10;
-    int FACTOR_B_P   = 10;
-    int FACTOR_N_PP  = 25;
+    int FACTOR_BP_B  = 25;
+    int FACTOR_NP_B  = 15;
+    int FACTOR_BP_P  = 55;  // the wrong bishop, or the piece goes for the pawn
+    int FACTOR_BN_P  = 55;
+    int FACTOR_R_PP  = 50;
+    int FACTOR_Q_RP  = 55;
+    int FACTOR_N_PP  = 50;  // only the pawns can win
     int FACTOR_B_PP  = 25;
-    int FACTOR_NN_P  = 40;  // mates while the pawn is blockaded far enough back (Troitsky)
-    int FACTOR_Q_RP  = 75;
-    // Any other: a minor piece ahead without a pawn to promote.
-    int FACTOR_MENOR = 30;
+    int FACTOR_NN_P  = 25;  // mates while the pawn is blockaded far enough back (Troitsky)
 
     // ---- Endings judged by the places of the pieces, for the stronger side.
     int BASE_VENTAJA = 150;  // what a decisive advantage without pawns is worth beyond its material

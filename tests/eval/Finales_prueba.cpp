@@ -28,10 +28,10 @@ static Cuentas Contar(std::string_view letras) {
 
 TEST_F(Finales, FactorPorMaterial) {
     for (const auto& [minimo, maximo, materiales] :
-         {std::tuple{0, 0, "- B-N NN- NN-B"},                                                     // dead draws
-          {100, 100, "Q-R BN- BB- RR-R Q-N P- RP-B N-PPPP QRRBBNNPPP-QRRBBNNPPP R-BPP RR-RBPP"},  // scored as they are
-          {1, 40, "RB-R R-N Q-RB Q-NN RR-RB B-P RB-RP"},                                          // drawn as a rule
-          {20, 99, "NN-P BP-N RP-R BB-N"}}) {  // harder than it looks
+         {std::tuple{0, 0, "- B-N NN- NN-B"},  // dead draws
+          {100, 100, "Q-R BN- BB- RR-R Q-N P- P-PP RP-B N-PPPP R-BPP RR-RBPP RPP-R QPP-Q QP-QP QRRBBNNPPP-QRRBBNNPPP"},
+          {1, 40, "RB-R R-N Q-RB Q-NN RR-RB B-P RB-RP RB-RN R-BP NP-B RP-RP"},  // drawn as a rule
+          {20, 99, "NN-P BP-N RP-R BB-N BNP-R BP-P BN-P R-PP RPP-RP"}}) {       // harder than it looks
         std::istringstream lista(materiales);
         for (std::string m; lista >> m;) {
             const Cuentas unas = Contar(m.substr(0, m.find('-'))), otras = Contar(m.substr(m.find('-')));
