@@ -154,7 +154,83 @@ constexpr int PrimerObstaculo(Conjunto ocupadas) {
     return PASO[DIR] > 0 ? Primera(ocupadas) : Ultima(ocupadas);
 }
 
+// The squares that a line piece sees in one direction, the first occupied one included. No branch: where nothing
+// stands on the ray, the search for the first piece ends on the corner whose own ray in that direction is empty.
+template <int DIR>
+inline Conjunto VistaEnDireccion(std::size_t casilla, Conjunto ocupadas) {
+    constexpr Conjunto ESQUINA = Bit(PASO[DIR] > 0 ? 63 : 0);
+    const Conjunto     rayo    = RAYOS[casilla][DIR];
+    const int          tope    = PrimerObstaculo<DIR>((rayo & ocupadas) | ESQUINA);
+    return rayo ^ RAYOS[static_cast<std::size_t>(tope)][DIR];
+}
+
+// A whole line, both directions at once, without a walk (the "kindergarten" method of Isenberg, 2006). A multiplication
+// gathers the occupied squares of the line on one rank; a rank or a diagonal has at most one square on each file, so no
+// two of them meet and nothing carries. The six inner squares of that rank are the index of a small table: a square at
+// the edge ends the view whether it is occupied or not.
 namespace conjunto {
+
+constexpr int INTERIORES = 64;  // sets of inner squares of a line of eight
+
+using FilaVistas = std::array<Conjunto, INTERIORES>;
+
+// Eight places in a row, bit n = place n: those seen from one of them, with the given inner places occupied.
+constexpr Conjunto VistaEnFila(int lugar, unsigned interiores) {
+    const Conjunto ocupados = Conjunto{interiores} << 1;
+    Conjunto       vista    = 0;
+    for (const int paso : {-1, +1})
+        for (int otro = lugar + paso; otro >= 0 && otro < 8; otro += paso) {
+            vista |= Bit(otro);
+            if ((ocupados & Bit(otro)) != 0) break;
+        }
+    return vista;
+}
+
+// The same upright: place n is the n-th square of the a file, from a8 down.
+constexpr Conjunto VistaEnColumna(int lugar, unsigned interiores) {
+    const Conjunto fila    = VistaEnFila(lugar, interiores);
+    Conjunto       columna = 0;
+    for (int otro = 0; otro < 8; ++otro)
+        if ((fila & Bit(otro)) != 0) columna |= Bit(8 * otro);
+    return columna;
+}
+
+constexpr std::array<FilaVistas, 8> CalcularVistas(bool en_columna) {
+    std::array<FilaVistas, 8> tabla{};
+    for (int lugar = 0; lugar < 8; ++lugar)
+        for (unsigned interiores = 0; interiores < INTERIORES; ++interiores)
+            tabla[static_cast<std::size_t>(lugar)][interiores] =
+                en_columna ? VistaEnColumna(lugar, interiores) : VistaEnFila(lugar, interiores) * COLUMNA_A;
+    return tabla;
+}
+
+// [file of the square][inner squares]: the view along a rank, on all ranks alike, so that any line cuts its own out.
+inline constexpr std::array<FilaVistas, 8> VISTAS_FILA = CalcularVistas(false);
+// [rank of the square, 0 = 8][inner squares]: the view along the a file.
+inline constexpr std::array<FilaVistas, 8> VISTAS_COLUMNA = CalcularVistas(true);
+
+// The lines through a square but its file, without the square itself.
+struct Lineas {
+    Conjunto Fila;
+    Conjunto Diagonal;
+    Conjunto Antidiagonal;
+};
+
+constexpr std::array<Lineas, 64> CalcularLineas() {
+    std::array<Lineas, 64> tabla{};
+    for (std::size_t casilla = 0; casilla < 64; ++casilla) {
+        const FilaRayos& rayos = RAYOS[casilla];
+        tabla[casilla]         = {rayos[DIR_MAS_1] | rayos[DIR_MENOS_1], rayos[DIR_MAS_9] | rayos[DIR_MENOS_9],
+                                  rayos[DIR_MAS_7] | rayos[DIR_MENOS_7]};
+    }
+    return tabla;
+}
+inline constexpr std::array<Lineas, 64> LINEAS = CalcularLineas();
+
+inline Conjunto VistaEnLinea(Conjunto linea, int columna, Conjunto ocupadas) {
+    const Conjunto interiores = ((ocupadas & linea) * (COLUMNA_A << 1)) >> 58;
+    return linea & VISTAS_FILA[static_cast<std::size_t>(columna)][interiores];
+}
 
 constexpr std::array<Conjunto, 64> UnirRayos(int primera, int ultima) {
     std::array<Conjunto, 64> tabla{};
@@ -169,26 +245,28 @@ constexpr std::array<Conjunto, 64> UnirRayos(int primera, int ultima) {
 inline constexpr std::array<Conjunto, 64> LINEAS_ALFIL = conjunto::UnirRayos(0, PRIMERA_RECTA - 1);
 inline constexpr std::array<Conjunto, 64> LINEAS_TORRE = conjunto::UnirRayos(PRIMERA_RECTA, DIRECCIONES - 1);
 
-// The squares that a line piece sees in one direction, the first occupied one included. No branch: where nothing
-// stands on the ray, the search for the first piece ends on the corner whose own ray in that direction is empty.
-template <int DIR>
-inline Conjunto VistaEnDireccion(std::size_t casilla, Conjunto ocupadas) {
-    constexpr Conjunto ESQUINA = Bit(PASO[DIR] > 0 ? 63 : 0);
-    const Conjunto     rayo    = RAYOS[casilla][DIR];
-    const int          tope    = PrimerObstaculo<DIR>((rayo & ocupadas) | ESQUINA);
-    return rayo ^ RAYOS[static_cast<std::size_t>(tope)][DIR];
+// What a line piece on a square sees, the first occupied square of each direction included.
+inline Conjunto AtaquesDiagonales(int desde, Conjunto ocupadas) {
+    const conjunto::Lineas& lineas = conjunto::LINEAS[static_cast<std::size_t>(desde)];
+    return conjunto::VistaEnLinea(lineas.Diagonal, Columna(desde), ocupadas) |
+           conjunto::VistaEnLinea(lineas.Antidiagonal, Columna(desde), ocupadas);
 }
 
-inline Conjunto AtaquesDiagonales(int desde, Conjunto ocupadas) {
-    const auto casilla = static_cast<std::size_t>(desde);
-    return VistaEnDireccion<DIR_MAS_9>(casilla, ocupadas) | VistaEnDireccion<DIR_MAS_7>(casilla, ocupadas) |
-           VistaEnDireccion<DIR_MENOS_7>(casilla, ocupadas) | VistaEnDireccion<DIR_MENOS_9>(casilla, ocupadas);
+inline Conjunto AtaquesHorizontales(int desde, Conjunto ocupadas) {
+    return conjunto::VistaEnLinea(conjunto::LINEAS[static_cast<std::size_t>(desde)].Fila, Columna(desde), ocupadas);
+}
+
+// The factor has a bit for each inner square of the file: it takes the square to its place among the upper six bits,
+// and everything else below them or off the end.
+inline Conjunto AtaquesVerticales(int desde, Conjunto ocupadas) {
+    constexpr Conjunto GIRO       = Bit(50) | Bit(43) | Bit(36) | Bit(29) | Bit(22) | Bit(15);
+    const int          columna    = Columna(desde);
+    const Conjunto     interiores = (((ocupadas >> columna) & COLUMNA_A) * GIRO) >> 58;
+    return conjunto::VISTAS_COLUMNA[static_cast<std::size_t>(Fila(desde))][interiores] << columna;
 }
 
 inline Conjunto AtaquesRectos(int desde, Conjunto ocupadas) {
-    const auto casilla = static_cast<std::size_t>(desde);
-    return VistaEnDireccion<DIR_MAS_8>(casilla, ocupadas) | VistaEnDireccion<DIR_MENOS_8>(casilla, ocupadas) |
-           VistaEnDireccion<DIR_MENOS_1>(casilla, ocupadas) | VistaEnDireccion<DIR_MAS_1>(casilla, ocupadas);
+    return AtaquesHorizontales(desde, ocupadas) | AtaquesVerticales(desde, ocupadas);
 }
 
 // The squares that the pieces of colour C occupy, and those with any piece.

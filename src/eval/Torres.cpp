@@ -59,12 +59,8 @@ struct Vista {
 };
 
 static Vista Mirar(int torre) {
-    const auto     casilla = static_cast<std::size_t>(torre);
-    const Conjunto vertical =
-        VistaEnDireccion<DIR_MENOS_8>(casilla, Ocupadas) | VistaEnDireccion<DIR_MAS_8>(casilla, Ocupadas);
-    const Conjunto horizontal =
-        VistaEnDireccion<DIR_MAS_1>(casilla, Ocupadas) | VistaEnDireccion<DIR_MENOS_1>(casilla, Ocupadas);
-    return {torre, vertical, vertical | horizontal};
+    const Conjunto vertical = AtaquesVerticales(torre, Ocupadas);
+    return {torre, vertical, vertical | AtaquesHorizontales(torre, Ocupadas)};
 }
 
 // Defended own pieces and attacked enemy ones, for the other terms.
