@@ -349,12 +349,17 @@ struct RegistroPesos {
 
     int FORTALEZA = 25;  // drawn, but the side that may try keeps trying
 
-    // Opposite-coloured bishops. A pawn counts for less than half of its worth while the other bishop and king can stop
-    // it, and for more once there are two more of them than they can watch.
-    int ALFILES_PEON          = 35;
-    int ALFILES_PEON_DOS_MAS  = 65;
-    int ALFILES_PASADO[FILAS] = {0, 80, 50, 30, 15, 8, 4, 0};  // by steps to promotion
-    int ALFILES_CENTRO        = 3;   // for each step of a king from the centre
+    // Opposite-coloured bishops: what pawns are worth, by steps to promotion where it says so; of two pawns the one that
+    // has more of them decides.
+    int ALFILES_PEON             = 20;
+    int ALFILES_PASADO[FILAS]    = {0, 70, 35, 25, 5, 0, 0, 0};        // passed, on top; it needs no more than a blockade
+    int ALFILES_CERCANIA         = 11;                                 // for each step that its own king is nearer to it
+    int ALFILES_UNIDOS[FILAS]    = {0, 170, 170, 110, 40, 0, 0, 0};    // two passed pawns side by side
+    int ALFILES_SEPARADOS[FILAS] = {0, 180, 180, 180, 65, 20, 0, 0};   // ... far apart
+    int ALFILES_FRENTES          = 175;                                // three passed pawns
+    int ALFILES_DOS_MAS          = 55;                                 // two pawns more than the other side
+    int ALFILES_ULTIMO_PEON      = 10;                                 // instead of all that, when there is no other
+    int ALFILES_CENTRO           = 3;                                  // for each step of a king from the centre
 
     // ==== last weight ====
 };

@@ -95,6 +95,7 @@ TEST_F(Finales, PosicionesConocidas) {
         {"third-rank fortress", "8/1kp5/3r4/8/3K4/8/8/7Q w - - 0 1", POCO},
         {"king before the pawn, like bishops", "8/8/3k4/3P4/4K3/8/6B1/7b w - - 0 1", TABLAS},
         {"opposite bishops, a pawn more", "8/3k4/8/3P4/3K4/8/6B1/b7 w - - 0 1", POCO},
+        {"opposite bishops, two side by side", "k7/8/5PP1/8/4K3/8/6B1/b7 w - - 0 1", VENTAJA},
         {"queen against rook", "8/8/8/4k3/3r4/8/8/KQ6 b - - 0 1", VENTAJA},
     };
     for (const auto& caso : CASOS) {
@@ -118,12 +119,16 @@ TEST_F(Finales, GanadasDeDamaContraPeonEnSeptima) {
     }
 }
 
-TEST_F(Finales, ElGradienteLlevaAlMate) {
+TEST_F(Finales, LoMejorValeMas) {
     for (const auto& [peor, mejor] :
          {std::pair{"8/8/8/4k3/8/8/8/KR6 w - - 0 1", "4k3/8/8/8/8/8/8/KR6 w - - 0 1"},  // the edge
           {"k7/8/2K5/8/8/8/8/2B1N3 w - - 0 1", "7k/8/5K2/8/8/8/8/2B1N3 w - - 0 1"},     // dark bishop: h8
           {"7k/8/5K2/8/8/8/8/3N1B2 w - - 0 1", "k7/8/2K5/8/8/8/8/3N1B2 w - - 0 1"},     // light bishop: a8
-          {"4k3/8/4K3/4P3/8/8/8/8 b - - 0 1", "4k3/8/4K3/8/8/8/8/1R6 w - - 0 1"}})      // promotion pays
+          {"4k3/8/4K3/4P3/8/8/8/8 b - - 0 1", "4k3/8/4K3/8/8/8/8/1R6 w - - 0 1"},       // promotion pays
+          // Opposite-coloured bishops: pawns far apart; no king before them; a square that the bishop leaves free.
+          {"8/3k4/8/2P1P3/3K4/8/6B1/b7 w - - 0 1", "8/3k4/8/P5P1/3K4/8/6B1/b7 w - - 0 1"},
+          {"5k2/8/5PP1/8/4K3/8/6B1/b7 w - - 0 1", "k7/8/5PP1/8/4K3/8/6B1/b7 w - - 0 1"},
+          {"1k6/8/4P3/p7/P7/4K3/6B1/b7 w - - 0 1", "1k6/8/4P3/p7/P7/4K3/7B/1b6 w - - 0 1"}})
         EXPECT_LT(Puntos(peor), Puntos(mejor)) << mejor;
 }
 
