@@ -1,7 +1,9 @@
 #include "tablebases/Gaviota.h"
 
+#include <cstdio>
 #include <cstring>
 
+#include "board/EstadoMotor.h"
 #include "plataforma/Biblioteca.h"
 #include "plataforma/Descriptores.h"
 #include "plataforma/Memoria.h"
@@ -91,6 +93,19 @@ static void ImprimirDisponibilidad(int hombres, int hay, int todas) {
     if ((tbprobe_Gaviota.Disponibilidad & todas) != 0) Imprimir("%d-pc TBs complete\n", hombres);
 }
 
+// Full UCI tells which schemes the folders hold when none of the files is of the scheme that was set.
+static void SugerirEsquema() {
+    const RegistroGaviota& g = tbprobe_Gaviota;
+    if (UciCompleto.Activo == 0 || NumeroTablasGaviota(g.Ruta, g.Compresion) != 0) return;
+    char otros[2 * (COMPRESION_MAX + 1) + 1] = "";
+    int  letras                              = 0;
+    for (int esquema = 0; esquema <= COMPRESION_MAX; ++esquema)
+        if (NumeroTablasGaviota(g.Ruta, esquema) != 0)
+            letras += std::snprintf(otros + letras, sizeof otros - static_cast<std::size_t>(letras), " %d", esquema);
+    Imprimir("info string No hay tablas de finales gaviota del esquema %d en %s%s%s.\n", g.Compresion, g.Ruta,
+             letras != 0 ? "; las hay del esquema" : "", otros);
+}
+
 void Cargar_gtbgaviota_dll() {
     RegistroGaviota& g = tbprobe_Gaviota;
     CargarFichero();
@@ -110,6 +125,7 @@ void Cargar_gtbgaviota_dll() {
     ImprimirDisponibilidad(3, HAY_3_PIEZAS, TODAS_3_PIEZAS);
     ImprimirDisponibilidad(4, HAY_4_PIEZAS, TODAS_4_PIEZAS);
     ImprimirDisponibilidad(5, HAY_5_PIEZAS, TODAS_5_PIEZAS);
+    SugerirEsquema();
     g.HombresSanos = ComprobarTablasGaviota(g.Ruta, g.Compresion);
 }
 

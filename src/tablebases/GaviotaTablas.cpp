@@ -18,7 +18,6 @@ constexpr std::uint32_t PALABRA_OCTETOS     = 4;
 constexpr std::uint32_t BLOQUE_MAX          = 0x10000;  // the library reads a block into a buffer of this size
 
 constexpr int COMPRESION_MIN = 1;  // scheme 0 reads plain files, which have no index
-constexpr int COMPRESION_MAX = 4;  // the library has no decoder for the rest, and calls it all the same
 
 constexpr char LETRAS_PIEZAS[] = "pnbrq";  // from low to high; a table's name has the higher piece first
 

@@ -3,6 +3,7 @@
 
 constexpr int HOMBRES_TABLA_MAX = 5;    // both kings included
 constexpr int RUTA_MAX          = 255;  // characters of a list of directories, the option GaviotaTbPath
+constexpr int COMPRESION_MAX    = 4;    // the library has no decoder for higher schemes, and calls it all the same
 
 // In both, rutas: directories separated by semicolons, up to RUTA_MAX characters; compresion: the scheme, which is part
 // of the file names.

@@ -70,6 +70,12 @@ TEST_F(Real, EsquemasCachesYCarpetas) {
         EXPECT_EQ(Sondear(KQK), std::nullopt) << ruta;
     }
     for (const int compresion : {0, 5}) EXPECT_TRUE(Recargar(TABLAS_REALES + "4", compresion).ends_with(SIN_TABLAS));
+    UciCompleto.Activo      = 1;
+    const std::string pista = "info string No hay tablas de finales gaviota del esquema 3 en ";
+    for (const auto& [ruta, hay] : {std::pair{TABLAS_REALES + "4;" + TABLAS_REALES + "1", "; las hay del esquema 1 4"},
+                                    {std::string("empty"), ""}})
+        EXPECT_TRUE(Recargar(ruta, 3).ends_with(SIN_TABLAS + pista + ruta + hay + ".\n"));
+    EXPECT_TRUE(Recargar(TABLAS_REALES + "3", 3).ends_with(TRES));
     EXPECT_EQ(administrador ? seteuid(0) : 0, 0);
     fs::permissions(cerrada, fs::perms::owner_all);
 }
