@@ -7,6 +7,7 @@ raiz=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 PAQUETES_MOTOR=(g++ cmake ninja-build libsqlite3-dev python3)
 PAQUETES_PRUEBAS=(libgtest-dev libbenchmark-dev pgn-extract parallel)
 PAQUETES_AFINADOR=(libeigen3-dev liblzma-dev)
+PAQUETES_WINDOWS=(gcc-mingw-w64-x86-64-win32 g++-mingw-w64-x86-64-win32)
 PAQUETES_REVISION=(clang clang-format clang-tidy)
 VERSION_LLVM=14 # of clang-format and clang-tidy, that of Debian 12
 

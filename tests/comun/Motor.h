@@ -14,6 +14,12 @@
 #include <utility>
 #include <vector>
 
+// The program under test: the one just built unless the environment names another, such as a starter of another build.
+inline std::string Programa() {
+    const char* otro = std::getenv("TAMREK_PROGRAMA");
+    return otro != nullptr ? otro : TAMREK_PROGRAMA;
+}
+
 class Motor {
 public:
     // descriptores: how many the program may have open, 0 = as many as this one.
@@ -21,7 +27,7 @@ public:
         std::signal(SIGPIPE, SIG_IGN);
         char plantilla[] = "/tmp/tamrek_prueba_XXXXXX";
         Carpeta          = mkdtemp(plantilla);
-        argumentos.insert(argumentos.begin(), TAMREK_PROGRAMA);
+        argumentos.insert(argumentos.begin(), Programa());
         std::vector<char*> argv;
         for (std::string& argumento : argumentos) argv.push_back(argumento.data());
         argv.push_back(nullptr);
