@@ -55,13 +55,16 @@ static void EvaluarDamasTrasPieza() {
     const ConjuntosBando& propios = Conjuntos[C];
     const Conjunto        quitar  = Ocupadas & ~propios.Peones;
     for (Conjunto damas = Conjuntos[RIVAL<C>].Damas; damas != 0;) {
-        const int      dama       = SacarCasilla(damas);
-        const Conjunto rectas     = AtaquesRectos(dama, Ocupadas);
-        const Conjunto diagonales = AtaquesDiagonales(dama, Ocupadas);
-        Sumar<C>(
-            PESOS.DAMA_TRAS_PIEZA,
-            Cuantas(AtaquesRectos(dama, Ocupadas ^ (rectas & quitar)) & ~rectas & propios.Torres) +
-                Cuantas(AtaquesDiagonales(dama, Ocupadas ^ (diagonales & quitar)) & ~diagonales & propios.Alfiles));
+        const int      dama    = SacarCasilla(damas);
+        const auto     casilla = static_cast<std::size_t>(dama);
+        const Conjunto vistas  = AtaquesDePieza[dama];
+        // Only pieces on her lines and out of her sight can be behind another one.
+        const Conjunto torres  = propios.Torres & LINEAS_TORRE[casilla] & ~vistas;
+        const Conjunto alfiles = propios.Alfiles & LINEAS_ALFIL[casilla] & ~vistas;
+        if ((torres | alfiles) == 0) continue;
+        const Conjunto restantes = Ocupadas ^ (vistas & quitar);
+        Sumar<C>(PESOS.DAMA_TRAS_PIEZA, Cuantas(AtaquesRectos(dama, restantes) & torres) +
+                                            Cuantas(AtaquesDiagonales(dama, restantes) & alfiles));
     }
 }
 

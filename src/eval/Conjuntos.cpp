@@ -2,6 +2,7 @@
 
 ConjuntosBando Conjuntos[2];
 Conjunto       Ocupadas;
+Conjunto       AtaquesDePieza[64];
 
 template <int C>
 static void ReunirPiezas() {

@@ -54,5 +54,8 @@ struct ConjuntosBando {
 extern ConjuntosBando Conjuntos[2];  // [colour]
 extern Conjunto       Ocupadas;      // squares that are not empty
 
+// What the knight, bishop, rook or queen on a square attacks, from the piece evaluation on; stale on other squares.
+extern Conjunto AtaquesDePieza[64];
+
 // Fills the sets of both sides, those of the pieces' attacks with nothing, and Peones_Septima of the side records.
 void ReunirConjuntos();

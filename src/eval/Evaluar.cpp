@@ -85,14 +85,13 @@ int Interpolate(int puntos_op, int puntos_eg, int fase) {
 
 int Evaluar() {
     COMPROBAR_POSICION();
-    LimpiarPuntuacion(0);
-    Material_Imbalance();
-    TableroGlobal.Fase = CalcularFase();
-
     EntradaCache* const entrada = EntradaDeCache();
     if (entrada != nullptr && entrada->Key == TableroGlobal.Key)
         return DesdeTurno(DesempaquetarPuntos(entrada->Puntos));
 
+    LimpiarPuntuacion(0);
+    Material_Imbalance();
+    TableroGlobal.Fase = CalcularFase();
     EvaluarApertura();
     EvaluarPiezasTableroJuego();  // before the endings, which use the attacks that it finds
     if (TableroGlobal.Fase <= FASE_FINAL) {

@@ -41,10 +41,10 @@ static void AnotarAtaqueZona(Conjunto ataques, const int& peso) {
     BandoDe<C>().Ataque_Numero += zona != 0 ? 1 : 0;
 }
 
-// Adds the common terms of all pieces of one kind of colour C and counts their attacks in Conjuntos.
-// ataques_desde(square) is the set a piece attacks from there. Returns the squares that they attack.
-template <int C, class AtaquesDesde>
-static Conjunto SumarPiezas(Conjunto piezas, const RasgosPieza& rasgos, AtaquesDesde ataques_desde) {
+// Adds the common terms of all pieces of one kind of colour C and counts their attacks in Conjuntos and AtaquesDePieza.
+// ataques_de(square) is the set a piece attacks from there. Returns the squares that they attack.
+template <int C, class AtaquesDe>
+static Conjunto SumarPiezas(Conjunto piezas, const RasgosPieza& rasgos, AtaquesDe ataques_de) {
     const Conjunto libres   = CasillasLibres<C>();
     const auto*    cercania = TROPISMO_DISTANCIA[PosicionReyDe<RIVAL<C>>()];
     Cuenta         cuenta   = Conjuntos[C].Ataques;
@@ -52,7 +52,8 @@ static Conjunto SumarPiezas(Conjunto piezas, const RasgosPieza& rasgos, AtaquesD
     while (piezas != 0) {
         const int      casilla  = SacarCasilla(piezas);
         const int      relativa = Relativa<C>(casilla);
-        const Conjunto ataques  = ataques_desde(casilla);
+        const Conjunto ataques  = ataques_de(casilla);
+        AtaquesDePieza[casilla] = ataques;
         atacadas |= ataques;
         SumarAtaques(cuenta, ataques);
         Sumar<C>(rasgos.Tablero_OP[relativa], rasgos.Tablero_EG[relativa]);
@@ -186,9 +187,11 @@ static void EvaluarLineasDeAlfiles() {
     const ConjuntosBando& propios = Conjuntos[C];
     const Conjunto        peones  = propios.Peones | Conjuntos[RIVAL<C>].Peones;
     for (Conjunto alfiles = propios.Alfiles; alfiles != 0;) {
-        const int alfil = SacarCasilla(alfiles);
-        if (Cuantas(AtaquesDiagonales(alfil, peones) & CENTRO) > 1) Sumar<C>(PESOS.BONUS_ALFIL_DIAGONAL_LARGA);
-        Sumar<C>(PESOS.PENALIZACION_ALFIL_RAYOS_X, -Cuantas(AtaquesDiagonales(alfil, 0) & Conjuntos[RIVAL<C>].Peones));
+        const int      alfil  = SacarCasilla(alfiles);
+        const Conjunto lineas = LINEAS_ALFIL[static_cast<std::size_t>(alfil)];
+        if (Cuantas(lineas & CENTRO) > 1 && Cuantas(AtaquesDiagonales(alfil, peones) & CENTRO) > 1)
+            Sumar<C>(PESOS.BONUS_ALFIL_DIAGONAL_LARGA);
+        Sumar<C>(PESOS.PENALIZACION_ALFIL_RAYOS_X, -Cuantas(lineas & Conjuntos[RIVAL<C>].Peones));
         Sumar<C>(PESOS.PENALIZACION_ALFIL_LEJOS, -DistanciaRey(alfil, PosicionReyDe<C>()));
     }
     if (Cuantas(propios.Alfiles) < 2) return;
@@ -258,7 +261,9 @@ template <int C>
 static void AnotarAtaquesTorres() {
     ConjuntosBando& propios = Conjuntos[C];
     for (Conjunto torres = propios.Torres; torres != 0;) {
-        const Conjunto ataques = AtaquesRectos(SacarCasilla(torres), Ocupadas);
+        const int      torre   = SacarCasilla(torres);
+        const Conjunto ataques = AtaquesRectos(torre, Ocupadas);
+        AtaquesDePieza[torre]  = ataques;
         propios.Ataque_Torres |= ataques;
         SumarAtaques(propios.Ataques, ataques);
     }
@@ -297,7 +302,7 @@ static void EvaluarTorresEncerradas() {
         const int torre = SacarCasilla(torres);
         const int lado  = Columna(torre) - Columna(rey);
         if (lado == 0 || (lado < 0) != (Columna(rey) < 4)) continue;
-        const int salidas = Cuantas(AtaquesRectos(torre, Ocupadas) & ~(propios.Peones | propios.Rey));
+        const int salidas = Cuantas(AtaquesDePieza[torre] & ~(propios.Peones | propios.Rey));
         if (salidas < HOLGURA) Sumar<C>(PESOS.PENALIZACION_TORRE_ENCERRADA, salidas - HOLGURA);
     }
 }

@@ -194,15 +194,13 @@ static void EvaluarZona(const Cerco& cerco) {
     if ((rival.Ataque_Alfiles & zona) != 0) SumarPeligro<C>(PESOS.PELIGRO_ALFIL_SUYO);
 }
 
-// How many pieces of C would see the enemy king if the nearest piece on their line were gone. Only cuales may go.
-template <int C>
-static int PiezasTras(const Cerco& cerco, Conjunto cuales) {
-    if (((cerco.Rectas | cerco.Diagonales) & cuales) == 0) return 0;
-    const ConjuntosBando& propios    = Conjuntos[C];
-    const Conjunto        rectas     = AtaquesRectos(cerco.Rey, Ocupadas ^ (cerco.Rectas & cuales));
-    const Conjunto        diagonales = AtaquesDiagonales(cerco.Rey, Ocupadas ^ (cerco.Diagonales & cuales));
-    return Cuantas(rectas & ~cerco.Rectas & (propios.Torres | propios.Damas)) +
-           Cuantas(diagonales & ~cerco.Diagonales & (propios.Alfiles | propios.Damas));
+// How many of the pieces of C that stand behind others on the king's lines would see him if the nearest piece on their
+// line were gone. Only cuales may go.
+static int PiezasTras(const Cerco& cerco, Conjunto torres, Conjunto alfiles, Conjunto cuales) {
+    const Conjunto vistas = (cerco.Rectas | cerco.Diagonales) & cuales;
+    if (vistas == 0) return 0;
+    return Cuantas(AtaquesRectos(cerco.Rey, Ocupadas ^ vistas) & torres) +
+           Cuantas(AtaquesDiagonales(cerco.Rey, Ocupadas ^ vistas) & alfiles);
 }
 
 // Pieces of either side that stand between the king and a line piece. A pawn there holds fast or opens its line slowly.
@@ -210,9 +208,12 @@ template <int C>
 static void EvaluarClavadas(const Cerco& cerco) {
     const ConjuntosBando& propios = Conjuntos[C];
     const ConjuntosBando& rival   = Conjuntos[RIVAL<C>];
-    if ((propios.Alfiles | propios.Torres | propios.Damas) == 0) return;
-    Presionar<C>(PESOS.CLAVADA, PESOS.PELIGRO_CLAVADA, PiezasTras<C>(cerco, rival.Todas ^ rival.Peones));
-    Sumar<C>(PESOS.DESCUBIERTA, PiezasTras<C>(cerco, propios.Todas ^ propios.Peones));
+    const auto            rey     = static_cast<std::size_t>(cerco.Rey);
+    const Conjunto        torres  = LINEAS_TORRE[rey] & (propios.Torres | propios.Damas) & ~cerco.Rectas;
+    const Conjunto        alfiles = LINEAS_ALFIL[rey] & (propios.Alfiles | propios.Damas) & ~cerco.Diagonales;
+    if ((torres | alfiles) == 0) return;
+    Presionar<C>(PESOS.CLAVADA, PESOS.PELIGRO_CLAVADA, PiezasTras(cerco, torres, alfiles, rival.Todas ^ rival.Peones));
+    Sumar<C>(PESOS.DESCUBIERTA, PiezasTras(cerco, torres, alfiles, propios.Todas ^ propios.Peones));
 }
 
 // The king's flank on his half of the board, and how openly he stands.

@@ -59,8 +59,8 @@ struct Vista {
 };
 
 static Vista Mirar(int torre) {
-    const Conjunto vertical = AtaquesVerticales(torre, Ocupadas);
-    return {torre, vertical, vertical | AtaquesHorizontales(torre, Ocupadas)};
+    const Conjunto todas = AtaquesDePieza[torre];
+    return {torre, todas & ColumnaEntera(Columna(torre)), todas};
 }
 
 // Defended own pieces and attacked enemy ones, for the other terms.

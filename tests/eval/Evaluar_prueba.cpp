@@ -43,10 +43,11 @@ TEST_F(Evaluador, LaCacheGuardaDesdeElBlanco) {
     EXPECT_EQ(Entrada().Key, TableroGlobal.Key);
     EXPECT_EQ(DesempaquetarPuntos(Entrada().Puntos), -puntos);
     Entrada().Puntos = EmpaquetarPuntos(-1234);
+    Blancas.Movilidad_OP = 777;
     for (const int turno : {NEGRO, BLANCO}) {  // a second call answers from the cache and evaluates nothing
         TableroGlobal.Turno = turno;
         EXPECT_EQ(Evaluar(), turno == NEGRO ? 1234 : -1234);
-        EXPECT_EQ(Blancas.Movilidad_OP, 0);
+        EXPECT_EQ(Blancas.Movilidad_OP, 777);
     }
     TableroGlobal.Turno = NEGRO;
     Entrada().Key ^= 2;  // another position in the slot is replaced
