@@ -124,15 +124,28 @@ static void ObtenerMovimientoPeon(int desde, SalidaLista& salida) {
     if (fila == FILA_SALIDA && casillas[doble] == VACIO) AddMovePosicionFichaAlPaso(desde, doble, PEON<C>, salida);
 }
 
+// In captures mode most pieces attack one enemy or none, and then there is no order to keep: the move is written from
+// the set of attacked squares. Returns false when there are more, which the caller has to write in their order.
 template <int MODO>
-static void Saltar(int desde, int pieza, const Saltos& saltos, SalidaLista& salida) {
+static bool AddMoveUnico(Conjunto ataques, std::uint32_t base, SalidaLista& salida) {
+    if constexpr (MODO != GENERAR_CAPTURAS) return false;
+    const Conjunto presas = ataques & salida.Rivales;
+    if ((presas & (presas - 1)) != 0) return false;
+    if (presas != 0) AddMoveRey<GENERAR_CAPTURAS>(base, Primera(presas), salida);
+    return true;
+}
+
+template <int MODO>
+static void Saltar(int desde, int pieza, const Saltos& saltos, Conjunto ataques, SalidaLista& salida) {
     const std::uint32_t base = CrearMovimiento(desde, 0, pieza, 0, NINGUNA);
+    if (AddMoveUnico<MODO>(ataques, base, salida)) return;
     for (int i = 0; i < saltos.Numero; ++i) AddMoveRey<MODO>(base, saltos.Casillas[i], salida);
 }
 
 template <int C, int MODO>
 static void ObtenerMovimientoCaballo(int desde, SalidaLista& salida) {
-    Saltar<MODO>(desde, CABALLO<C>, SALTOS_CABALLO[static_cast<unsigned>(desde)], salida);
+    const auto indice = static_cast<unsigned>(desde);
+    Saltar<MODO>(desde, CABALLO<C>, SALTOS_CABALLO[indice], ATAQUES_CABALLO[indice], salida);
 }
 
 // One ray: over empty squares up to the first piece, which is taken if it is the enemy's.
@@ -157,6 +170,7 @@ static void DeslizarRayo(int desde, std::uint32_t base, SalidaLista& salida) {
 template <int MODO>
 static void ObtenerMovimientoAlfil(int desde, int pieza, SalidaLista& salida) {
     const std::uint32_t base = CrearMovimiento(desde, 0, pieza, 0, NINGUNA);
+    if (AddMoveUnico<MODO>(AtaquesDiagonales(desde, salida.Propias | salida.Rivales), base, salida)) return;
     DeslizarRayo<DIR_MAS_9, MODO>(desde, base, salida);
     DeslizarRayo<DIR_MAS_7, MODO>(desde, base, salida);
     DeslizarRayo<DIR_MENOS_7, MODO>(desde, base, salida);
@@ -166,6 +180,7 @@ static void ObtenerMovimientoAlfil(int desde, int pieza, SalidaLista& salida) {
 template <int MODO>
 static void ObtenerMovimientoTorre(int desde, int pieza, SalidaLista& salida) {
     const std::uint32_t base = CrearMovimiento(desde, 0, pieza, 0, NINGUNA);
+    if (AddMoveUnico<MODO>(AtaquesRectos(desde, salida.Propias | salida.Rivales), base, salida)) return;
     DeslizarRayo<DIR_MAS_8, MODO>(desde, base, salida);
     DeslizarRayo<DIR_MENOS_8, MODO>(desde, base, salida);
     DeslizarRayo<DIR_MENOS_1, MODO>(desde, base, salida);
@@ -196,7 +211,8 @@ static void ObtenerEnroques(int desde, SalidaLista& salida) {
 template <int C, int MODO>
 static void ObtenerMovimientoRey(int desde, SalidaLista& salida) {
     if (MODO != GENERAR_CAPTURAS && EnroqueDe<C>() != SIN_ENROQUE) ObtenerEnroques<C>(desde, salida);
-    Saltar<MODO>(desde, REY<C>, SALTOS_REY[static_cast<unsigned>(desde)], salida);
+    const auto indice = static_cast<unsigned>(desde);
+    Saltar<MODO>(desde, REY<C>, SALTOS_REY[indice], ATAQUES_REY[indice], salida);
 }
 
 template <int C, int MODO>
@@ -241,12 +257,23 @@ static void GenerarPiezaConCuidado(int desde, SalidaLista& salida, const Entrada
     }
 }
 
+// The pieces to visit: in captures mode without the pawns that can neither take nor promote.
+template <int C, int MODO>
+static Conjunto PiezasQueMueven(const SalidaLista& salida) {
+    if constexpr (MODO != GENERAR_CAPTURAS) return salida.Propias;
+    constexpr int  FILA_SEPTIMA = 6;
+    const int      al_paso      = TableroGlobal.FichaAlPaso;
+    const Conjunto vecinas      = al_paso != 0 ? Lados(Bit(al_paso)) : 0;
+    const Conjunto activos      = AtaquesDePeones<RIVAL<C>>(salida.Rivales) | FilaEntera<C>(FILA_SEPTIMA) | vecinas;
+    return salida.Propias & (~CasillasCon(PEON<C>) | activos);
+}
+
 template <int C, int MODO>
 static int Generar(ListaMovimientos& lista) {
     const EntradaMovimiento* const fin = lista.Entradas + MOVIMIENTOS_MAX;
     SalidaLista                    salida{lista.Entradas, CasillasDe<C>(), CasillasDe<RIVAL<C>>()};
-    for (Conjunto propias = salida.Propias; propias != 0;) {
-        const int desde = SacarCasillaEnOrden<C>(propias);
+    for (Conjunto piezas = PiezasQueMueven<C, MODO>(salida); piezas != 0;) {
+        const int desde = SacarCasillaEnOrden<C>(piezas);
         if (fin - salida.Siguiente >= MOVIMIENTOS_PIEZA_MAX)
             GenerarPieza<C, MODO>(desde, salida);
         else
