@@ -33,7 +33,7 @@ static int DesdeTurno(int puntos) {
 
 static EntradaCache* EntradaDeCache() {
     if (TT_Cache == nullptr || TT_Opciones.MegasCache == 0) return nullptr;
-    return &TT_Cache[TableroGlobal.Key % TT_Opciones.NumeroCache];
+    return &EntradaCacheDe(TableroGlobal.Key);
 }
 
 // What the endgame knowledge answers by itself, for the side to move, or NO_RECONOCIDO.

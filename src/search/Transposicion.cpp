@@ -13,6 +13,8 @@
 RegistroTT_Opciones TT_Opciones;
 CuboTransposicion*  TT_Datos = nullptr;
 EntradaCache*       TT_Cache = nullptr;
+DivisorFijo         DivisorCubos;
+DivisorFijo         DivisorCache;
 
 constexpr int           MEGAS_MIN       = 1;
 constexpr int           MEGAS_MAX       = 2048;
@@ -62,7 +64,7 @@ static int PuntosDesdeRaiz(int puntos) {
 // One bucket is one cache line: a probe waits for memory once, however many ways it looks at. The remainder uses every
 // bit of the key, and lets the table have any number of buckets instead of a power of two.
 static CuboTransposicion& CuboActual() {
-    return TT_Datos[TableroGlobal.Key % TT_Opciones.NumeroCubos];
+    return CuboDe(TableroGlobal.Key);
 }
 
 // The way that holds the current position, nullptr = none. Whole keys are compared, so that only positions whose 64
@@ -83,6 +85,8 @@ static void RepartirMemoria(int megas) {
     TT_Opciones.Megas       = total - TT_Opciones.MegasCache;
     TT_Opciones.NumeroCubos = static_cast<std::uint64_t>(TT_Opciones.Megas) * (MEGA / sizeof(CuboTransposicion));
     TT_Opciones.NumeroCache = static_cast<std::uint64_t>(TT_Opciones.MegasCache) * (MEGA / sizeof(EntradaCache));
+    DivisorCubos            = CrearDivisor(TT_Opciones.NumeroCubos);
+    DivisorCache            = CrearDivisor(TT_Opciones.NumeroCache);
 }
 
 void LiberarTransposicion() {

@@ -54,6 +54,37 @@ extern RegistroTT_Opciones TT_Opciones;
 extern CuboTransposicion*  TT_Datos;  // nullptr = no table
 extern EntradaCache*       TT_Cache;  // nullptr = no cache
 
+// What a number is divided by again and again, with its reciprocal, 2^64 - 1 over it.
+struct DivisorFijo {
+    std::uint64_t Numero;
+    std::uint64_t Reciproco;
+};
+extern DivisorFijo DivisorCubos;  // by TT_Opciones.NumeroCubos
+extern DivisorFijo DivisorCache;  // by TT_Opciones.NumeroCache
+
+constexpr DivisorFijo CrearDivisor(std::uint64_t numero) {
+    return {numero, numero == 0 ? 0 : ~std::uint64_t{0} / numero};
+}
+
+// valor % divisor.Numero, without the division, which a probe would wait for. The reciprocal falls short of 2^64 over
+// the number by at most 1, so the upper half of the product is the quotient or one less; never more.
+constexpr std::uint64_t Resto(std::uint64_t valor, const DivisorFijo& divisor) {
+    __extension__ using Doble    = unsigned __int128;
+    const auto          cociente = static_cast<std::uint64_t>((Doble{valor} * divisor.Reciproco) >> 64);
+    const std::uint64_t resto    = valor - cociente * divisor.Numero;
+    return resto < divisor.Numero ? resto : resto - divisor.Numero;
+}
+static_assert(Resto(~std::uint64_t{0}, CrearDivisor(1)) == 0 && Resto(6, CrearDivisor(7)) == 6);
+static_assert(Resto(~std::uint64_t{0}, CrearDivisor(917504)) == ~std::uint64_t{0} % 917504);
+
+// Where a key belongs in a table that exists.
+inline CuboTransposicion& CuboDe(std::uint64_t key) {
+    return TT_Datos[Resto(key, DivisorCubos)];
+}
+inline EntradaCache& EntradaCacheDe(std::uint64_t key) {
+    return TT_Cache[Resto(key, DivisorCache)];
+}
+
 // (Re)creates both tables, empty. megas: the Hash option; below 1 makes 1, beyond 2048 makes 2048. When memory
 // runs out it prints a line and raises Salir.
 void CrearTransposicion(int megas);
@@ -82,8 +113,8 @@ int Hashfull();
 
 // Ask the processor to fetch what a probe or an evaluation of this key will read.
 inline void PrecargarTransposicion(std::uint64_t key) {
-    if (TT_Datos != nullptr) __builtin_prefetch(&TT_Datos[key % TT_Opciones.NumeroCubos]);
+    if (TT_Datos != nullptr) __builtin_prefetch(&CuboDe(key));
 }
 inline void PrecargarCache(std::uint64_t key) {
-    if (TT_Cache != nullptr) __builtin_prefetch(&TT_Cache[key % TT_Opciones.NumeroCache]);
+    if (TT_Cache != nullptr) __builtin_prefetch(&EntradaCacheDe(key));
 }
