@@ -32,10 +32,27 @@ static EscalaHistorico ObtenerEscala() {
             Min_Historico < 0 ? 1.0F / static_cast<float>(Min_Historico) : 0.0F};
 }
 
-static const BandaTranquila& BandaDe(int ply, std::uint32_t movimiento, std::uint32_t refutacion) {
-    if (EsKillerMate(ply, movimiento)) return BANDA_KILLER_MATE;
-    if (EsKiller(ply, movimiento)) return BANDA_KILLER;
-    return movimiento == refutacion ? BANDA_REFUTACION : BANDA_RESTO;
+// The quiet moves that something speaks for at this ply, read once a list: the tables that hold them could, for all the
+// compiler knows, be written by each score.
+struct Recomendados {
+    std::uint32_t KillerMate[KILLERS];
+    std::uint32_t Killer[KILLERS];
+    std::uint32_t Refutacion;
+};
+
+static Recomendados ObtenerRecomendados(int ply, std::uint32_t refutacion) {
+    const auto& mates   = Historico_Killer_Mate[ply];
+    const auto& killers = Historico_Killer[ply];
+    return {{mates[0], mates[1]}, {killers[0], killers[1]}, refutacion};
+}
+
+static const BandaTranquila& BandaDe(std::uint32_t movimiento, const Recomendados& recomendados) {
+    const auto esta = [movimiento](const std::uint32_t(&en)[KILLERS]) {
+        return movimiento == en[0] || movimiento == en[1];
+    };
+    if (esta(recomendados.KillerMate)) return BANDA_KILLER_MATE;
+    if (esta(recomendados.Killer)) return BANDA_KILLER;
+    return movimiento == recomendados.Refutacion ? BANDA_REFUTACION : BANDA_RESTO;
 }
 
 // History as a percentage of the extreme value on its side: 0..100 or -100..0. Single precision, in this order of
@@ -56,8 +73,8 @@ static int PuntosCaptura(std::uint32_t movimiento) {
 }
 
 void OrdenarMovimientosTodos(int numero, std::uint32_t tabla, ListaMovimientos& lista, std::uint32_t refutacion) {
-    const int             ply    = TableroGlobal.Ply;
-    const EscalaHistorico escala = ObtenerEscala();
+    const EscalaHistorico escala       = ObtenerEscala();
+    const Recomendados    recomendados = ObtenerRecomendados(TableroGlobal.Ply, refutacion);
     for (int i = 0; i < numero; ++i) {
         const std::uint32_t movimiento = lista.Entradas[i].Movimiento;
         std::int32_t&       puntos     = lista.Entradas[i].Puntos;
@@ -70,7 +87,7 @@ void OrdenarMovimientosTodos(int numero, std::uint32_t tabla, ListaMovimientos& 
         else if (EsCoronacion(movimiento))
             puntos = valor_coronacion[static_cast<std::size_t>(PiezaCoronada(movimiento))];
         else
-            puntos = PuntosTranquilo(movimiento, BandaDe(ply, movimiento, refutacion), escala);
+            puntos = PuntosTranquilo(movimiento, BandaDe(movimiento, recomendados), escala);
     }
 }
 
