@@ -5,6 +5,7 @@
 
 #include "board/Ataques.h"
 #include "board/Color.h"
+#include "board/Conjunto.h"
 #include "board/Geometria.h"
 #include "board/Movimiento.h"
 
@@ -70,75 +71,62 @@ static std::uint32_t Capturar(int origen, int casilla) {
     return 0;
 }
 
+// Captures with one of the pawns that attack casilla: seven squares away before nine.
 template <int C>
-static std::uint32_t CapturarConPeon(int casilla) {
-    // A pawn stands one diagonal step behind its target. Such a step keeps the colour of the square; when it
-    // changes, the step has wrapped round the edge.
-    for (const int paso : {7, 9}) {
-        const int origen = C == BLANCO ? casilla + paso : casilla - paso;
-        if (!EnTablero(origen) || !MismoColor(origen, casilla) || TableroGlobal.Casillas[origen] != PEON<C>) continue;
-        if (const std::uint32_t movimiento = Capturar<C>(origen, casilla)) return movimiento;
-    }
+static std::uint32_t CapturarConPeon(Conjunto peones, int casilla) {
+    while (peones != 0)
+        if (const std::uint32_t movimiento = Capturar<C>(SacarCasillaEnOrden<RIVAL<C>>(peones), casilla))
+            return movimiento;
     return 0;
 }
 
-// Captures with a knight or with the king.
+// Captures with one of the knights, or the king, that attack casilla, in the order of their jumps.
 template <int C>
-static std::uint32_t CapturarConSalto(int pieza, const Saltos& saltos, int casilla) {
+static std::uint32_t CapturarConSalto(Conjunto piezas, const Saltos& saltos, int casilla) {
+    if (piezas == 0) return 0;
     for (int i = 0; i < saltos.Numero; ++i) {
         const int origen = saltos.Casillas[i];
-        if (TableroGlobal.Casillas[origen] != pieza) continue;
+        if (!Contiene(piezas, origen)) continue;
         if (const std::uint32_t movimiento = Capturar<C>(origen, casilla)) return movimiento;
     }
     return 0;
 }
 
-// Looked along anew for each capture: the piece that has just captured may have uncovered another one behind it.
-// Where a look from a square ends in each direction: at the first piece, at the edge, or on the square itself when
-// it lies on that edge.
-struct Rayos {
-    int Casillas[DIRECCIONES];
-};
-
-static Rayos TrazarRayos(int casilla) {
-    Rayos rayos;
-    for (int dir = 0; dir < DIRECCIONES; ++dir) {
-        int fin = casilla;
-        for (int pasos = ALCANCE[static_cast<std::size_t>(casilla)][static_cast<std::size_t>(dir)]; pasos > 0;
-             --pasos) {
-            fin += PASO[dir];
-            if (TableroGlobal.Casillas[fin] != VACIO) break;
-        }
-        rayos.Casillas[dir] = fin;
-    }
-    return rayos;
-}
-
+// Captures with one of the pieces that casilla sees along its lines, at most one in each direction, in the order of the
+// directions.
 template <int C>
-static std::uint32_t CapturarConRayo(int pieza, const Rayos& rayos, int primera, int ultima, int casilla) {
-    for (int dir = primera; dir <= ultima; ++dir) {
-        const int origen = rayos.Casillas[dir];
-        if (origen == casilla || TableroGlobal.Casillas[origen] != pieza) continue;
-        if (const std::uint32_t movimiento = Capturar<C>(origen, casilla)) return movimiento;
+static std::uint32_t CapturarConRayo(Conjunto piezas, int casilla) {
+    for (std::size_t dir = 0; piezas != 0; ++dir) {
+        const Conjunto en_rayo = piezas & RAYOS[static_cast<std::size_t>(casilla)][dir];
+        if (en_rayo == 0) continue;
+        piezas ^= en_rayo;
+        if (const std::uint32_t movimiento = Capturar<C>(Primera(en_rayo), casilla)) return movimiento;
     }
     return 0;
 }
 
 // From the cheapest piece to the dearest, since whoever recaptures risks least with the cheapest: with any other order
 // the sum of See would tell of an exchange that nobody plays. Within a kind the first one found serves. Bishops are
-// asked before rooks, and both before the queen, although one look has found them all.
+// asked before rooks, and both before the queen. The lines are looked along anew for each capture, for the piece that
+// has just captured may have uncovered another one behind it; but only those on which a piece stands that could use
+// them.
 template <int C>
 static std::uint32_t AtaqueMenor(int casilla) {
-    if (const auto peon = CapturarConPeon<C>(casilla)) return peon;
-    const auto indice = static_cast<std::size_t>(casilla);
-    if (const auto caballo = CapturarConSalto<C>(CABALLO<C>, SALTOS_CABALLO[indice], casilla)) return caballo;
+    const auto     indice = static_cast<std::size_t>(casilla);
+    const Conjunto peones = AtaquesDePeones<RIVAL<C>>(Bit(casilla)) & CasillasCon(PEON<C>);
+    if (const auto peon = CapturarConPeon<C>(peones, casilla)) return peon;
+    const Conjunto caballos = ATAQUES_CABALLO[indice] & CasillasCon(CABALLO<C>);
+    if (const auto caballo = CapturarConSalto<C>(caballos, SALTOS_CABALLO[indice], casilla)) return caballo;
 
-    const Rayos   rayos  = TrazarRayos(casilla);
-    constexpr int ULTIMA = DIRECCIONES - 1;
-    if (const auto alfil = CapturarConRayo<C>(ALFIL<C>, rayos, 0, PRIMERA_RECTA - 1, casilla)) return alfil;
-    if (const auto torre = CapturarConRayo<C>(TORRE<C>, rayos, PRIMERA_RECTA, ULTIMA, casilla)) return torre;
-    if (const auto dama = CapturarConRayo<C>(DAMA<C>, rayos, 0, ULTIMA, casilla)) return dama;
-    return CapturarConSalto<C>(REY<C>, SALTOS_REY[indice], casilla);
+    const Conjunto ocupadas    = CasillasOcupadas();
+    Conjunto       en_diagonal = LINEAS_ALFIL[indice] & (CasillasCon(ALFIL<C>) | CasillasCon(DAMA<C>));
+    Conjunto       en_recta    = LINEAS_TORRE[indice] & (CasillasCon(TORRE<C>) | CasillasCon(DAMA<C>));
+    if (en_diagonal != 0) en_diagonal &= AtaquesDiagonales(casilla, ocupadas);
+    if (en_recta != 0) en_recta &= AtaquesRectos(casilla, ocupadas);
+    if (const auto alfil = CapturarConRayo<C>(en_diagonal & CasillasCon(ALFIL<C>), casilla)) return alfil;
+    if (const auto torre = CapturarConRayo<C>(en_recta & CasillasCon(TORRE<C>), casilla)) return torre;
+    if (const auto dama = CapturarConRayo<C>((en_diagonal | en_recta) & CasillasCon(DAMA<C>), casilla)) return dama;
+    return CapturarConSalto<C>(ATAQUES_REY[indice] & CasillasCon(REY<C>), SALTOS_REY[indice], casilla);
 }
 
 std::uint32_t Obtener_Ataques_Menores(int casilla, int bando) {
