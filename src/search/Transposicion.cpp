@@ -49,15 +49,16 @@ static std::uint16_t CrearInfo(int profundidad, int cota) {
 }
 
 // A mate is stored by its distance from the node and read back by its distance from the root, since the same
-// position is reached at different plies. Scores of the tablebases leave the ply out, so they could pass the limit.
+// position is reached at different plies. Scores of the tablebases leave the ply out: read nearer to the root than they
+// were stored, they would pass the mate limit, beyond which no score may go.
 static int PuntosDesdeNodo(int puntos) {
-    if (puntos > UMBRAL_MATE) return std::min(puntos + TableroGlobal.Ply, VALOR_MATE);
-    if (puntos < -UMBRAL_MATE) return std::max(puntos - TableroGlobal.Ply, -VALOR_MATE);
+    if (puntos > UMBRAL_MATE) return puntos + TableroGlobal.Ply;
+    if (puntos < -UMBRAL_MATE) return puntos - TableroGlobal.Ply;
     return puntos;
 }
 static int PuntosDesdeRaiz(int puntos) {
-    if (puntos > UMBRAL_MATE) return puntos - TableroGlobal.Ply;
-    if (puntos < -UMBRAL_MATE) return puntos + TableroGlobal.Ply;
+    if (puntos > UMBRAL_MATE) return std::min(puntos - TableroGlobal.Ply, VALOR_MATE);
+    if (puntos < -UMBRAL_MATE) return std::max(puntos + TableroGlobal.Ply, -VALOR_MATE);
     return puntos;
 }
 
@@ -187,18 +188,18 @@ int RecuperarPosicion(int alfa, int beta, int profundidad, int* puntos, std::uin
 
     *puntos     = DesempaquetarPuntos(via->Puntos);
     *movimiento = via->Movimiento;
-    if (ProfundidadDe(*via) < profundidad) return 0;  // a shallower search proves nothing; its move is still welcome
+    // A shallower search proves nothing, though its move is still welcome; nor does what is no bound.
+    const int cota = CotaDe(*via);
+    if (ProfundidadDe(*via) < profundidad || cota == 0) return 0;
 
     *puntos = PuntosDesdeRaiz(*puntos);
-    switch (CotaDe(*via)) {
+    switch (cota) {
         case COTA_EXACTA:
             return 1;
         case COTA_SUPERIOR:  // decides only when what the score can be at most is not above alfa
             return alfa >= std::min(beta, *puntos);
-        case COTA_INFERIOR:  // only when what it is at least reaches beta
+        default:  // COTA_INFERIOR: only when what it is at least reaches beta
             return std::max(alfa, *puntos) >= beta;
-        default:
-            return 0;
     }
 }
 

@@ -17,10 +17,11 @@ constexpr std::uint16_t EmpaquetarPuntos(int puntos) {
     return static_cast<std::uint16_t>(puntos + VALOR_INFINITO);
 }
 constexpr int DesempaquetarPuntos(std::uint16_t guardados) {
-    return guardados - VALOR_INFINITO;
+    return static_cast<std::int16_t>(guardados - VALOR_INFINITO);  // wraps, so that all 16 bits serve
 }
 static_assert(DesempaquetarPuntos(0) == -VALOR_INFINITO);
-static_assert(DesempaquetarPuntos(EmpaquetarPuntos(VALOR_INFINITO)) == VALOR_INFINITO);
+static_assert(DesempaquetarPuntos(EmpaquetarPuntos(VALOR_MATE + PLIES_MAX)) == VALOR_MATE + PLIES_MAX);
+static_assert(DesempaquetarPuntos(EmpaquetarPuntos(-VALOR_MATE - PLIES_MAX)) == -VALOR_MATE - PLIES_MAX);
 
 struct EntradaTransposicion {
     std::uint64_t Key;         // 0 = empty

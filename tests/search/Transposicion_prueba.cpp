@@ -49,15 +49,16 @@ TEST_F(Transposicion, ElTamanoSigueALaOpcionHash) {
 }
 
 TEST_F(Transposicion, UnMateSeGuardaPorSuDistanciaAlNodo) {
-    for (const int signo : {+1, -1}) {
-        IrAClave(0);
-        TableroGlobal.Ply = 4;
-        AlmacenarPosicion(5, signo * 31995, COTA_EXACTA, 1);
-        TableroGlobal.Ply = 0;
-        EXPECT_EQ(Leer(-1, 1, 5)[1], signo * 31999);
-        TableroGlobal.Ply = 2;
-        EXPECT_EQ(Leer(-1, 1, 5)[1], signo * 31997);
-    }
+    // The last two are of a tablebase, which counts from its own node.
+    for (const auto& [ply, puntos, otro_ply, leidos] :
+         {std::tuple{4, 31995, 0, 31999}, {4, 31995, 2, 31997}, {10, 31996, 10, 31996}, {10, 31996, 2, 32000}})
+        for (const int signo : {+1, -1}) {
+            IrAClave(0);
+            TableroGlobal.Ply = ply;
+            AlmacenarPosicion(5, signo * puntos, COTA_EXACTA, 1);
+            TableroGlobal.Ply = otro_ply;
+            EXPECT_EQ(Leer(-1, 1, 5)[1], signo * leidos) << ply << " " << puntos;
+        }
 }
 
 TEST_F(Transposicion, LaCotaYLaProfundidadDecidenSiCorta) {
