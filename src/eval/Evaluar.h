@@ -21,5 +21,5 @@ extern int AJUSTE_ATT[2];
 // earlier searches with whatever weights they had.
 void Iniciar_Asimetrico();
 
-// Fills the table of the pawn ending. To be called once at start-up, before any evaluation.
+// Solves the endings that are kept in tables. To be called once at start-up, before any evaluation.
 void Iniciar_Evaluacion();

@@ -55,7 +55,7 @@ static int TextoPv(char (&texto)[TEXTO_PV_MAX + 1]) {
 }
 
 static void TextoPuntos(int puntos, int etiqueta, char (&texto)[TEXTO_PUNTOS]) {
-    // Plies to the mate become jugadas of the side that mates; a lost side counts its own.
+    // Plies to the mate become moves of the side that mates; a lost side counts its own.
     if (EsMateGanado(puntos))
         std::snprintf(texto, sizeof texto, "mate %d", (VALOR_MATE - puntos + 1) / 2);
     else if (EsMatePerdido(puntos))
