@@ -5,6 +5,7 @@
 #include <charconv>
 #include <chrono>
 #include <cmath>
+#include <cstdint>
 #include <cstdio>
 #include <cstring>
 #include <exception>
@@ -14,6 +15,7 @@
 #include <sstream>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "afinar/Datos.h"
@@ -33,6 +35,7 @@ constexpr char USO[] =
     "Tunes the weights of the evaluation on FILE, plain or .xz: lines FEN;centipawns;result, the centipawns by a\n"
     "strong engine and the result (1, 0.5 or 0) both as White sees them.\n"
     "  --medir         measure the loss by game phase and change nothing\n"
+    "  --hojas         learn from where a search of one ply ends, not from the quiet rows as they stand\n"
     "  --pesos PATH    the source file with the weights (" RUTA_PESOS
     ")\n"
     "  --solo A,B,...  tune these members of the record only\n"
@@ -64,6 +67,7 @@ struct Opciones {
     std::vector<std::string> Solo   = {};
     std::vector<std::string> Salvo  = {};
     bool                     Medir  = false;
+    bool                     Hojas  = false;
     double                   Mezcla = 0.5;
     TiranteMuelles           Muelles;
     int                      Pasadas = 20;
@@ -101,6 +105,8 @@ Opciones LeerOpciones(const std::vector<std::string>& argumentos) {
         };
         if (nombre == "--medir")
             opciones.Medir = true;
+        else if (nombre == "--hojas")
+            opciones.Hojas = true;
         else if (nombre == "--pesos")
             opciones.Pesos = valor();
         else if (nombre == "--solo")
@@ -152,16 +158,20 @@ void Progreso(const char* que, std::size_t hechas, std::size_t todas) {
         std::fprintf(stderr, "\r%s %zu of %zu%s", que, hechas, todas, hechas == todas ? "\n" : "");
 }
 
-void Repartir(const Datos& datos, Estado& estado) {
+void Repartir(const Datos& datos, const Opciones& opciones, Estado& estado) {
     std::size_t lejanas = 0, inquietas = 0, hechas = 0;
     for (const Fila& fila : datos.Filas) {
+        std::vector<std::uint32_t> jugadas;
         Progreso("reading", ++hechas, datos.Filas.size());
         if (std::abs(fila.Centipeones) >= PUNTOS_TOPE || fila.Fase < FASE_MIN)
             ++lejanas;
-        else if (!EsTranquila(fila.Fen))
+        else if (!(opciones.Hojas ? BuscarHoja(fila.Fen, jugadas) : EsTranquila(fila.Fen)))
             ++inquietas;
-        else
-            (fila.Prueba ? estado.Prueba : estado.Entrenamiento).Filas.push_back(fila);
+        else {
+            Grupo& grupo = fila.Prueba ? estado.Prueba : estado.Entrenamiento;
+            grupo.Filas.push_back(fila);
+            grupo.Filas.back().Jugadas = std::move(jugadas);
+        }
     }
     std::printf("%zu rows: %zu bad, %zu decided or without pieces, %zu not quiet; %zu to train, %zu to test\n",
                 datos.Filas.size() + datos.Malas, datos.Malas, lejanas, inquietas, estado.Entrenamiento.Filas.size(),
@@ -179,13 +189,13 @@ void Observar(Estado& estado) {
     estado.Prueba.Puntos.clear();
     for (const Fila& fila : estado.Prueba.Filas) {
         sueltos.clear();
-        estado.Prueba.Puntos.push_back(Observar(fila.Fen, sueltos));
+        estado.Prueba.Puntos.push_back(Observar(fila.Fen, fila.Jugadas, sueltos));
     }
     Grupo& grupo = estado.Entrenamiento;
     grupo.Puntos.clear();
     for (std::size_t i = 0; i < grupo.Filas.size(); ++i) {
         const std::size_t primero = muestras.Coeficientes.size();
-        grupo.Puntos.push_back(Observar(grupo.Filas[i].Fen, muestras.Coeficientes));
+        grupo.Puntos.push_back(Observar(grupo.Filas[i].Fen, grupo.Filas[i].Jugadas, muestras.Coeficientes));
         muestras.Filas.push_back({.Puntos   = grupo.Puntos.back(),
                                   .Objetivo = grupo.Objetivos.empty() ? 0 : grupo.Objetivos[i],
                                   .Primero  = primero,
@@ -292,7 +302,7 @@ std::vector<Margen> Margenes(const std::vector<Miembro>& miembros) {
     for (const Miembro& miembro : miembros) {
         Margen margen;
         if (miembro.Nombre.starts_with("PESO_")) margen = {.Minimo = 0};
-        if (miembro.Nombre.starts_with("FACTOR_")) margen = {.Minimo = 1, .Maximo = 100};
+        if (miembro.Nombre.starts_with("FACTOR_")) margen = {.Minimo = 1, .Maximo = 150};
         margenes.insert(margenes.end(), miembro.Numero, margen);
     }
     return margenes;
@@ -396,7 +406,7 @@ int main(int argc, char** argv) {
         ArrancarMotor();
         const Datos datos = LeerDatos(opciones.Fichero);
         Estado      estado;
-        Repartir(datos, estado);
+        Repartir(datos, opciones, estado);
         if (opciones.Medir)
             Medir(estado);
         else

@@ -2,17 +2,19 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
 struct Fila {
-    std::string_view Fen;  // within Datos::Texto
-    int              Linea;
-    int              Centipeones;  // of the strong engine, White's view
-    double           Resultado;    // for White: 1, 0.5 or 0
-    int              Fase;         // n, b = 1, r = 2, q = 4 over both sides; 24 and more = all pieces
-    bool             Prueba;       // kept apart for testing
+    std::string_view           Fen;  // within Datos::Texto
+    int                        Linea;
+    int                        Centipeones;   // of the strong engine, White's view
+    double                     Resultado;     // for White: 1, 0.5 or 0
+    int                        Fase;          // n, b = 1, r = 2, q = 4 over both sides; 24 and more = all pieces
+    bool                       Prueba;        // kept apart for testing
+    std::vector<std::uint32_t> Jugadas = {};  // from Fen to the position that is evaluated
 };
 
 struct Datos {

@@ -10,6 +10,10 @@
 #include "board/Ataques.h"
 #include "board/Bando.h"
 #include "board/Color.h"
+#include "board/Comprobacion.h"
+#include "board/Generacion.h"
+#include "board/Geometria.h"
+#include "board/HacerMovimiento.h"
 #include "board/Posicion.h"
 #include "board/Puntuacion.h"
 #include "board/Tablero.h"
@@ -24,9 +28,10 @@
 
 namespace {
 
-constexpr unsigned SEMILLA    = 1;
-constexpr int      MEGAS      = 1;    // too small for an evaluation cache, which would answer with old weights
-constexpr int      SIN_AJUSTE = 100;  // percent
+constexpr unsigned SEMILLA     = 1;
+constexpr int      MEGAS       = 1;    // too small for an evaluation cache, which would answer with old weights
+constexpr int      JUGADAS_MAX = 24;   // plies of a line of captures
+constexpr int      SIN_AJUSTE  = 100;  // percent
 
 // How Evaluar puts the accumulators together. Whoever changes it there is told by the self-check.
 constexpr int PESO_TROPISMO    = 20;  // percent
@@ -68,8 +73,20 @@ std::size_t Indice(const int* peso) {
     return static_cast<std::size_t>(peso - PrimerPeso());
 }
 
+// A FEN does not tell who has castled: a king on his back rank that stands where castling leads to, or further to the
+// edge, and has no right left, is taken to have done so. In a game the engine knows, and its evaluation asks.
+void SuponerEnroque(int rey, int fila, int& estado) {
+    constexpr int ULTIMA_LARGA = 2, PRIMERA_CORTA = 6;  // files c and g
+    if (estado != SIN_ENROQUE || Fila(rey) != fila) return;
+    if (Columna(rey) <= ULTIMA_LARGA) estado = ENROCADO_LARGO;
+    if (Columna(rey) >= PRIMERA_CORTA) estado = ENROCADO_CORTO;
+}
+
 void Cargar(std::string_view fen) {
+    constexpr int FILA_BLANCAS = 7, FILA_NEGRAS = 0;  // as Fila() counts
     Position_Fen_Startpos((" fen " + std::string(fen)).c_str());
+    SuponerEnroque(TableroGlobal.PosicionReyBlanco, FILA_BLANCAS, TableroGlobal.EnroqueBlancas);
+    SuponerEnroque(TableroGlobal.PosicionReyNegro, FILA_NEGRAS, TableroGlobal.EnroqueNegras);
 }
 
 int Sumado(int color, Acumulador acumulador) {
@@ -217,6 +234,43 @@ void AnotarCoeficientes(double base, std::vector<Coeficiente>& coeficientes) {
     }
 }
 
+// Score of the position by quiescence after this move, for the side that made it; the lowest score for an illegal move.
+int PuntosTras(std::uint32_t movimiento, int alfa, int beta, NivelQs nivel) {
+    const bool legal  = HacerMovimiento(movimiento) != 0;
+    const int  puntos = legal ? -AlphaBeta_Qs(-beta, -alfa, TurnoEnJaque(), VENTANA_ABIERTA, nivel) : -VALOR_INFINITO;
+    DeshacerMovimiento();
+    return puntos;
+}
+
+// The score of a search of one ply.
+int PuntosDeUnPly() {
+    ListaMovimientos lista;
+    const int        numero = GenerarMovimientos(GENERAR_TODOS, lista);
+    int              mejor  = -VALOR_INFINITO;
+    for (int i = 0; i < numero; ++i)
+        mejor = std::max(mejor, PuntosTras(lista.Entradas[i].Movimiento, mejor, VALOR_INFINITO, PRIMER_NIVEL));
+    return mejor;
+}
+
+// Plays the moves of the line of best play that is worth valor, until the position is worth it by itself.
+bool Bajar(int valor, std::vector<std::uint32_t>& jugadas) {
+    for (bool primera = true; TableroGlobal.Ply < JUGADAS_MAX; primera = false, valor = -valor) {
+        const int en_jaque = TurnoEnJaque();
+        if (!primera && en_jaque == SIN_JAQUE && Evaluar() == valor) return true;
+        ListaMovimientos lista;
+        const int        numero =
+            GenerarMovimientos(primera || en_jaque == EN_JAQUE ? GENERAR_TODOS : GENERAR_CAPTURAS, lista);
+        const auto fin   = lista.Entradas + numero;
+        const auto mejor = std::find_if(lista.Entradas + 0, fin, [=](const auto& entrada) {
+            return PuntosTras(entrada.Movimiento, valor - 1, valor + 1, primera ? PRIMER_NIVEL : NIVEL_HONDO) == valor;
+        });
+        if (mejor == fin) return false;
+        HacerMovimiento(mejor->Movimiento);
+        jugadas.push_back(mejor->Movimiento);
+    }
+    return false;
+}
+
 }  // namespace
 
 void Trazar(const int& peso, int veces, int color, Acumulador acumulador) {
@@ -253,8 +307,20 @@ bool EsTranquila(std::string_view fen) {
     return turno == AlphaBeta_Qs(-VALOR_INFINITO, VALOR_INFINITO, 0, 0, 1);
 }
 
-double Observar(std::string_view fen, std::vector<Coeficiente>& coeficientes) {
+bool BuscarHoja(std::string_view fen, std::vector<std::uint32_t>& jugadas) {
     Cargar(fen);
+    const auto rey_contrario = TableroGlobal.Turno == BLANCO ? JaqueNegras(TableroGlobal.PosicionReyNegro)
+                                                             : JaqueBlancas(TableroGlobal.PosicionReyBlanco);
+    if (rey_contrario != 0) return false;
+    if (!Bajar(PuntosDeUnPly(), jugadas)) return false;
+    EvaluarConRastro();
+    return EsCompleta();
+}
+
+double Observar(std::string_view fen, const std::vector<std::uint32_t>& jugadas,
+                std::vector<Coeficiente>& coeficientes) {
+    Cargar(fen);
+    for (const std::uint32_t jugada : jugadas) HacerMovimiento(jugada);
     const int      puntos   = EvaluarConRastro();
     const Rearmado rearmado = Rearmar();
     if (rearmado.Entero != puntos)

@@ -1,6 +1,7 @@
 // The engine's evaluation as the tuner sees it: a position in, its score and what each weight has to do with it out.
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 #include <vector>
 
@@ -17,7 +18,12 @@ void             PonerPesos(const std::vector<int>& pesos);
 // or promotion changes the score, or when the knowledge of an ending answers in the evaluation's place.
 bool EsTranquila(std::string_view fen);
 
-// Score of the position at the present weights, centipawns, White's view; appends what one unit of each weight adds to
-// it, by ascending weight. Throws std::runtime_error when the weights that the evaluation says it has used do not add
-// up to its score.
-double Observar(std::string_view fen, std::vector<Coeficiente>& coeficientes);
+// The moves from a position to the one that a search of one ply and its quiescence ends in and judges by. False when
+// that is decided by a rule, by mate or by the knowledge of an ending, or when the side to move could take the king.
+bool BuscarHoja(std::string_view fen, std::vector<std::uint32_t>& jugadas);
+
+// Score of the position behind these moves at the present weights, centipawns, White's view; appends what one unit of
+// each weight adds to it, by ascending weight. Throws std::runtime_error when the weights that the evaluation says it
+// has used do not add up to its score.
+double Observar(std::string_view fen, const std::vector<std::uint32_t>& jugadas,
+                std::vector<Coeficiente>& coeficientes);

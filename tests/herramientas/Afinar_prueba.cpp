@@ -1,6 +1,7 @@
 // The tuner: what it accepts as a row, its way into and out of the source of the weights, the trace and the method.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdint>
 #include <fstream>
 #include <iterator>
@@ -98,7 +99,7 @@ TEST(Afinar, LosCoeficientesSonLosDeLaEvaluacion) {
     for (const char* fen : POSICIONES) {
         std::vector<Coeficiente> coeficientes, otros;
         PonerPesos(pesos);
-        const double        puntos = Observar(fen, coeficientes);
+        const double        puntos = Observar(fen, {}, coeficientes);
         std::vector<double> cambios(pesos.size());
         for (const Coeficiente& c : coeficientes) cambios[c.Peso] = static_cast<double>(c.Valor);
         for (const Miembro& miembro : miembros)
@@ -108,8 +109,28 @@ TEST(Afinar, LosCoeficientesSonLosDeLaEvaluacion) {
                 PonerPesos(nuevos);
                 const bool   curvo      = miembro.Nombre.starts_with("PESO_") || miembro.Nombre.starts_with("PELIGRO_");
                 const double tolerancia = curvo ? 3 : 0.001;
-                EXPECT_NEAR(Observar(fen, otros), puntos + cambios[i], tolerancia) << fen << ' ' << miembro.Nombre;
+                EXPECT_NEAR(Observar(fen, {}, otros), puntos + cambios[i], tolerancia) << fen << ' ' << miembro.Nombre;
             }
+    }
+}
+
+// The line that is followed ends where the search of one ply has judged: behind the captures, not before them.
+TEST(Afinar, BajaHastaDondeAcabaLaBusqueda) {
+    const struct {
+        const char* Fen;
+        std::size_t Jugadas;                                    // to the end of the line; 0 = none
+    } casos[] = {{"4k3/pp6/8/3q4/4P3/8/PP6/4K3 w - - 0 1", 1},  // takes the queen
+                 {"4k3/pp6/8/4p3/3Q4/8/PP6/4K3 b - - 0 1", 1},
+                 {"6k1/5ppp/8/8/8/8/5PPP/R5K1 w - - 0 1", 0},  // mates
+                 {"4k3/8/8/8/4q3/8/4R3/4K3 w - - 0 1", 0}};    // an ending that is known remains
+    ArrancarMotor();
+    for (const auto& caso : casos) {
+        std::vector<std::uint32_t> jugadas;
+        std::vector<Coeficiente>   coeficientes;
+        EXPECT_EQ(BuscarHoja(caso.Fen, jugadas), caso.Jugadas != 0) << caso.Fen;
+        if (caso.Jugadas == 0) continue;
+        EXPECT_EQ(jugadas.size(), caso.Jugadas) << caso.Fen;
+        EXPECT_LT(std::abs(Observar(caso.Fen, jugadas, coeficientes)), 300) << caso.Fen;
     }
 }
 
