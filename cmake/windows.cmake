@@ -1,5 +1,5 @@
-# Toolchain: programs for 64-bit Windows made with Debian's MinGW-w64. Everything is linked in, so that the program needs
-# nothing but Windows.
+# Toolchain: programs for 64-bit Windows made with Debian's MinGW-w64. Everything is linked in, so that the program
+# needs nothing but Windows.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-win32)
