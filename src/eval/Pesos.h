@@ -20,6 +20,7 @@ struct RegistroPesos {
     static constexpr int FILAS_PUESTO    = 4;  // seventh to fourth rank
     static constexpr int ESTADOS_ENROQUE = 6;
     static constexpr int EXPOSICIONES    = 14;
+    static constexpr int PEONES          = 17;  // of both sides, from none on
     static constexpr int VENTAJAS        = 5;
 
     // ==== first weight ====
@@ -330,6 +331,9 @@ struct RegistroPesos {
     int FACTOR_N_PP  = 50;  // only the pawns can win
     int FACTOR_B_PP  = 25;
     int FACTOR_NN_P  = 25;  // mates while the pawn is blockaded far enough back (Troitsky)
+
+    // Any other ending, by the number of pawns of both sides.
+    int FACTOR_PEONES[PEONES] = {100,  89,  95,  97, 103, 103, 107, 109, 110, 112, 115, 116, 116, 116, 116, 116, 116};
 
     // ---- Endings judged by the places of the pieces, for the stronger side.
     int BASE_VENTAJA = 150;  // what a decisive advantage without pawns is worth beyond its material

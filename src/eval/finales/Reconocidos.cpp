@@ -1,10 +1,17 @@
 #include "eval/finales/Reconocidos.h"
 
+#include <algorithm>
+#include <cstddef>
+
 #include "eval/Pesos.h"
 
 constexpr int TABLAS_MUERTAS   = 0;
 constexpr int PIEZAS_CON_REGLA = 5;  // no rule names more pieces, or more pawns, than these on the board
 constexpr int PEONES_CON_REGLA = 3;
+
+// The number of pawns counts up to this phase, by the pieces on the board (24 = all); before, pieces decide.
+constexpr int FASE_CON_PEONES = 7;
+constexpr int PEONES_MAX      = 16;
 
 constexpr int VENTAJA_MENOR    = 3;  // pawns that a minor piece is worth
 constexpr int PEONES_COMPENSAN = 2;  // they make up for a lead as large; for a single one the defender gives a piece
@@ -58,18 +65,27 @@ static const int* FactorComun(int ventaja, int peones, int peonesRival, bool dam
     return peones == 2 ? &PESOS.FACTOR_DOS_A_UNO : nullptr;
 }
 
-int FinalesReconocidos(int pb, int cb, int ab, int tb, int db, int pn, int cn, int an, int tn, int dn) {
-    const int piezas = cb + ab + tb + db + cn + an + tn + dn;
-    if (pb + pn > PEONES_CON_REGLA || piezas > PIEZAS_CON_REGLA) return SIN_CAMBIO;
+// Any other ending: the more pawns there are, the likelier that one of them promotes, and the fewer, the more is drawn
+// by giving up a piece for the last of them. Endings without pawns have an evaluation of their own.
+static const int* FactorPorPeones(int peones, int fase) {
+    if (peones == 0 || fase == 0 || fase > FASE_CON_PEONES) return nullptr;
+    return &PESOS.FACTOR_PEONES[static_cast<std::size_t>(std::min(peones, PEONES_MAX))];
+}
 
-    const std::uint64_t blancas = ClaveMaterial(pb, cb, ab, tb, db);
-    const std::uint64_t negras  = ClaveMaterial(pn, cn, an, tn, dn);
-    const int           ventaja = 3 * (cb + ab - cn - an) + 5 * (tb - tn) + 9 * (db - dn);
-    const int*          factor  = FactorOrdenado(Enfrentadas(blancas, negras));
-    if (factor == nullptr) factor = FactorOrdenado(Enfrentadas(negras, blancas));
-    if (factor == nullptr && piezas == 0) return SIN_CAMBIO;  // pawns against pawns
-    if (factor == nullptr) factor = FactorComun(ventaja, pb, pn, db + dn > 0);
-    if (factor == nullptr) factor = FactorComun(-ventaja, pn, pb, db + dn > 0);
+int FinalesReconocidos(int pb, int cb, int ab, int tb, int db, int pn, int cn, int an, int tn, int dn) {
+    const int  piezas = cb + ab + tb + db + cn + an + tn + dn;
+    const int* factor = nullptr;
+    if (pb + pn <= PEONES_CON_REGLA && piezas <= PIEZAS_CON_REGLA) {
+        const std::uint64_t blancas = ClaveMaterial(pb, cb, ab, tb, db);
+        const std::uint64_t negras  = ClaveMaterial(pn, cn, an, tn, dn);
+        const int           ventaja = 3 * (cb + ab - cn - an) + 5 * (tb - tn) + 9 * (db - dn);
+        factor                      = FactorOrdenado(Enfrentadas(blancas, negras));
+        if (factor == nullptr) factor = FactorOrdenado(Enfrentadas(negras, blancas));
+        if (factor == nullptr && piezas == 0) return SIN_CAMBIO;  // pawns against pawns
+        if (factor == nullptr) factor = FactorComun(ventaja, pb, pn, db + dn > 0);
+        if (factor == nullptr) factor = FactorComun(-ventaja, pn, pb, db + dn > 0);
+    }
+    if (factor == nullptr) factor = FactorPorPeones(pb + pn, cb + ab + cn + an + 2 * (tb + tn) + 4 * (db + dn));
     if (factor == nullptr) return SIN_CAMBIO;
     Trazar(*factor, 1, BLANCO, Acumulador::Factor);
     return *factor;

@@ -6,9 +6,9 @@
 constexpr int SIN_CAMBIO = 100;  // percentage of a score that leaves it as it is
 
 // Arguments: white pawns, knights, bishops, rooks and queens, then Black's. Returns the percentage of the normal
-// score that the material deserves, whoever stands better: 0 = dead draw, SIN_CAMBIO = no special knowledge. It is 0
-// only where neither side can force a win, and exchanging the colours returns the same. Any counts of 0 or more are
-// accepted.
+// score that the material deserves, whoever stands better: 0 = dead draw, SIN_CAMBIO = no special knowledge, more than
+// that in endings of many pawns. It is 0 only where neither side can force a win, and exchanging the colours returns
+// the same. Any counts of 0 or more are accepted.
 int FinalesReconocidos(int pb, int cb, int ab, int tb, int db, int pn, int cn, int an, int tn, int dn);
 
 // The same for the pieces of Blancas and Negras.
