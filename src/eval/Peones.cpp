@@ -1,6 +1,4 @@
 // Pawn structure and passed pawns: what each property that Conjuntos knows, and some more, are worth.
-#include <cassert>
-
 #include "eval/Conjuntos.h"
 #include "eval/Espejo.h"
 #include "eval/Par.h"
@@ -155,9 +153,8 @@ static void EvaluarDebilidades() {
         SumarApertura<C>(PENALIZACION_PEON_RETRASADO_MALUS[Columna(SacarCasilla(resto))]);
 }
 
-// All that depends on where the pawns of both sides stand, and on nothing else.
 template <int C>
-static void SumarEstructura() {
+static void EvaluarPeones() {
     const ConjuntosBando& propios    = Conjuntos[C];
     const Conjunto        falange    = propios.Peones & Lados(propios.Peones);
     const Conjunto        defendidos = propios.Peones & propios.Ataque_Peones;
@@ -169,47 +166,11 @@ static void SumarEstructura() {
         const int fila = FilaRelativa<C>(SacarCasilla(resto));
         Sumar<C>(Truncar(BONUS_PASSED[fila], UN_TERCIO), Truncar(BONUS_PASSED[PASADO_EG + fila], UN_TERCIO));
     }
+    const bool rival_sin_piezas = SinPiezas<RIVAL<C>>();
+    for (Conjunto resto = propios.Pasados; resto != 0;) EvaluarPasado<C>(SacarCasilla(resto), rival_sin_piezas);
+
     SumarTabla<C>(propios.Peones, PST_P_OP, PST_P_EG);
     SumarApertura<C>(BONUS_PEON_CENTRAL_AVANZADO, Cuantas(propios.Peones & CENTRO_AVANZADO<C>));
-}
-
-// Most moves leave the pawns where they are, so their structure is scored once and remembered. An entry that was never
-// written is right for a board without pawns.
-struct EntradaEstructura {
-    LlavePeones Llave;
-    Par         Puntos;
-};
-static EntradaEstructura EstructurasVistas[2][ESTRUCTURAS];  // [colour]
-
-template <int C>
-static Par PuntosEstructura() {
-    RegistroBando& bando = BandoDe<C>();
-    const Par      antes = {bando.Puntos_OP, bando.Puntos_EG};
-    SumarEstructura<C>();
-    const Par puntos = {bando.Puntos_OP - antes.OP, bando.Puntos_EG - antes.EG};
-    bando.Puntos_OP  = antes.OP;
-    bando.Puntos_EG  = antes.EG;
-    return puntos;
-}
-
-template <int C>
-static void RecordarEstructura() {
-    if constexpr (TRAZANDO) {
-        SumarEstructura<C>();  // every weight has to be reported every time
-    } else {
-        const LlavePeones  llave = LlaveDePeones();
-        EntradaEstructura& vista = EstructurasVistas[C][LugarDe(llave)];
-        if (vista.Llave != llave) vista = {llave, PuntosEstructura<C>()};
-        assert(vista.Puntos == PuntosEstructura<C>());
-        Sumar<C>(vista.Puntos);
-    }
-}
-
-template <int C>
-static void EvaluarPeones() {
-    RecordarEstructura<C>();
-    const bool rival_sin_piezas = SinPiezas<RIVAL<C>>();
-    for (Conjunto resto = Conjuntos[C].Pasados; resto != 0;) EvaluarPasado<C>(SacarCasilla(resto), rival_sin_piezas);
 }
 
 void EvaluarPeonesB() {

@@ -105,8 +105,10 @@ static int IntentosMinimos(std::size_t iteracion, int salto) {
 }
 
 TEST_F(Conductor, TodaLineaSePuedeJugarYSuSaltoSeNombraYAbreLaVentana) {
+    std::vector<const char*> posiciones(std::begin(POSICIONES), std::end(POSICIONES));
+    posiciones.push_back("8/6k1/R7/8/8/8/p4K2/r7 b - - 0 1");  // the rook leaves the corner, and skewers whoever takes
     int ampliadas = 0;
-    for (const char* fen : POSICIONES) {
+    for (const char* fen : posiciones) {
         const Salida salida = Correr(fen, 9);
         ASSERT_EQ(salida.Iteraciones.size(), 8U);
         for (std::size_t i = 0; i < 8; ++i) {
