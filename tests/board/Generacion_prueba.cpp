@@ -79,6 +79,10 @@ TEST_F(Generacion, PosicionesAbsurdas) {
     EXPECT_EQ(Textos(GENERAR_TODOS), "");
     Fen("8/8/3p4/3Pp3/8/8/8/k1K5 w - e3 0 1");  // the square behind names a white pawn that is not there
     EXPECT_EQ(Textos(GENERAR_CAPTURAS), "");
+    Fen("8/8/8/3Pn3/8/8/8/k1K5 w - e6 0 1");  // a knight
+    EXPECT_EQ(Textos(GENERAR_CAPTURAS), "");
+    Fen("8/8/4n3/3Pp3/8/8/8/k1K5 w - e6 0 1");  // a pawn, but its way was not free
+    EXPECT_EQ(Textos(GENERAR_CAPTURAS), "d5e6 ");
     struct {
         ListaMovimientos lista;
         std::uint32_t    centinela[64];

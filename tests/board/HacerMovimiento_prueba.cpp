@@ -23,6 +23,12 @@ struct Foto {
     }
 };
 
+// The pawn that is taken stood between the king and the bishop.
+TEST_F(Jugadas, CapturaAlPasoQueDescubreAlRey) {
+    Fen("8/4b3/8/2pP4/8/K7/8/7k w - c6 0 1");
+    EXPECT_EQ(HacerMovimientoConJaque(Buscado("d5c6"), SIN_JAQUE), 0);
+}
+
 TEST_F(Jugadas, DeshacerDejaTodoComoEstaba) {
     for (const char* posicion : POSICIONES) {
         Fen(posicion);
