@@ -7,8 +7,6 @@
 struct Par {
     int OP;
     int EG;
-
-    bool operator==(const Par&) const = default;
 };
 
 // Where a weight goes: a field of the side record, or one of the two places with a rule of their own.
