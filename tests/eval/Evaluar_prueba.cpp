@@ -42,7 +42,7 @@ TEST_F(Evaluador, LaCacheGuardaDesdeElBlanco) {
     const int puntos = Evaluar();
     EXPECT_EQ(Entrada().Key, TableroGlobal.Key);
     EXPECT_EQ(DesempaquetarPuntos(Entrada().Puntos), -puntos);
-    Entrada().Puntos = EmpaquetarPuntos(-1234);
+    Entrada().Puntos     = EmpaquetarPuntos(-1234);
     Blancas.Movilidad_OP = 777;
     for (const int turno : {NEGRO, BLANCO}) {  // a second call answers from the cache and evaluates nothing
         TableroGlobal.Turno = turno;
