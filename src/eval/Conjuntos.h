@@ -57,26 +57,5 @@ extern Conjunto       Ocupadas;      // squares that are not empty
 // What the knight, bishop, rook or queen on a square attacks, from the piece evaluation on; stale on other squares.
 extern Conjunto AtaquesDePieza[64];
 
-// The pawns of both sides, to remember what depends on nothing else. The sets are kept whole: no structure can be taken
-// for another one, and what is remembered is what would be worked out again.
-struct LlavePeones {
-    Conjunto Blancos;
-    Conjunto Negros;
-
-    bool operator==(const LlavePeones&) const = default;
-};
-constexpr int         BITS_ESTRUCTURAS = 10;
-constexpr std::size_t ESTRUCTURAS      = std::size_t{1} << BITS_ESTRUCTURAS;
-
-inline LlavePeones LlaveDePeones() {
-    return {Conjuntos[BLANCO].Peones, Conjuntos[NEGRO].Peones};
-}
-
-// A place below ESTRUCTURAS for a structure, spread by multiplication (Knuth); mezcla sets apart what else counts.
-constexpr std::size_t LugarDe(const LlavePeones& llave, Conjunto mezcla = 0) {
-    constexpr Conjunto RAZON_AUREA = 0x9E3779B97F4A7C15;  // 2^64 over the golden ratio
-    return ((llave.Blancos * RAZON_AUREA ^ llave.Negros ^ mezcla) * RAZON_AUREA) >> (64 - BITS_ESTRUCTURAS);
-}
-
 // Fills the sets of both sides, those of the pieces' attacks with nothing, and Peones_Septima of the side records.
 void ReunirConjuntos();

@@ -1,7 +1,6 @@
 #include "eval/SeguridadRey.h"
 
 #include <algorithm>
-#include <cassert>
 #include <cstddef>
 
 #include "eval/Conjuntos.h"
@@ -68,60 +67,26 @@ static int PuntosRefugio(int rey) {
     return puntos;
 }
 
-// Where a king of C may shelter, and what the shelter depends on beside the pawns of both sides.
-struct Resguardo {
-    int  Rey;
-    bool Corto;  // he may castle to that wing
-    bool Largo;
-    bool Amenazado;  // by rooks or queens
-
-    constexpr Conjunto Mezcla() const {  // never 0
-        return static_cast<Conjunto>(Rey << 4 | (Corto ? 8 : 0) | (Largo ? 4 : 0) | (Amenazado ? 2 : 0) | 1);
-    }
-};
-
-// Twice the worth of the shelter. While the right to castle lasts, the pawns of that wing are worth keeping: a better
-// shelter there counts half.
+// While the right to castle lasts, the pawns of that wing are worth keeping: a better shelter there counts half.
 template <int C>
-static int PuntosResguardo(const Resguardo& resguardo) {
-    const int  presente = PuntosRefugio<C>(resguardo.Rey);
+static void EvaluarRefugio(int rey) {
+    const int  estado   = EnroqueDe<C>();
+    const int  presente = PuntosRefugio<C>(rey);
     int        mejor    = presente;
-    int        casilla  = resguardo.Rey;
+    int        casilla  = rey;
     const auto comparar = [&mejor, &casilla](int destino) {
         const int puntos = PuntosRefugio<C>(destino);
         if (puntos <= mejor) return;
         mejor   = puntos;
         casilla = destino;
     };
-    if (resguardo.Corto) comparar(En<C>("g1"));
-    if (resguardo.Largo) comparar(En<C>("c1"));
+    if (estado == ENROQUE_CORTO || estado == ENROQUE_AMBOS) comparar(En<C>("g1"));
+    if (estado == ENROQUE_LARGO || estado == ENROQUE_AMBOS) comparar(En<C>("c1"));
+    SumarRefugio<C>(presente + mejor);
     if constexpr (TRAZANDO)
-        for (const int lugar : {resguardo.Rey, casilla})
+        for (const int lugar : {rey, casilla})
             RecorrerRefugio<C>(lugar,
                                [](const int& peso, int veces) { Trazar(peso, veces, C, Acumulador::Refugio_OP); });
-    return presente + mejor;
-}
-
-// Pawns and kings move seldom, so a shelter is looked at once and remembered.
-struct EntradaResguardo {
-    LlavePeones Llave;
-    Conjunto    Mezcla;  // 0 = never written
-    int         Puntos;
-};
-static EntradaResguardo ResguardosVistos[2][ESTRUCTURAS];  // [colour]
-
-template <int C>
-static void EvaluarRefugio(int rey) {
-    const int         estado = EnroqueDe<C>();
-    const Resguardo   resguardo{rey, estado == ENROQUE_CORTO || estado == ENROQUE_AMBOS,
-                              estado == ENROQUE_LARGO || estado == ENROQUE_AMBOS,
-                              (Conjuntos[RIVAL<C>].Torres | Conjuntos[RIVAL<C>].Damas) != 0};
-    const LlavePeones llave = LlaveDePeones();
-    EntradaResguardo& visto = ResguardosVistos[C][LugarDe(llave, resguardo.Mezcla())];
-    if (TRAZANDO || visto.Mezcla != resguardo.Mezcla() || visto.Llave != llave)
-        visto = {llave, resguardo.Mezcla(), PuntosResguardo<C>(resguardo)};
-    assert(TRAZANDO || visto.Puntos == PuntosResguardo<C>(resguardo));
-    SumarRefugio<C>(visto.Puntos);
 }
 
 template <int C>
