@@ -291,7 +291,7 @@ Eigen::VectorXd Diferencia(const std::vector<int>& a, const std::vector<int>& b)
 }
 
 // Values that a weight may take. The attack on the king indexes a table and must not become negative; a factor is a
-// percentage, and 0 of it means a dead draw to the engine.
+// percentage of the score: 0 means a dead draw to the engine, and much beyond 100 an ending would outweigh a won one.
 struct Margen {
     int Minimo = std::numeric_limits<int>::min();
     int Maximo = std::numeric_limits<int>::max();

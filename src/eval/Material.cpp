@@ -58,7 +58,7 @@ static int Menores(const RegistroBando& bando) {
 }
 
 static int FaseDe(const RegistroBando& bando) {
-    return Menores(bando) + 2 * bando.Torres + 4 * bando.Damas;
+    return FaseDePiezas(Menores(bando), bando.Torres, bando.Damas);
 }
 
 void Material_Imbalance() {

@@ -7,6 +7,11 @@ constexpr int MATERIAL[] = {0, 100, 325, 335, 500, 1000};
 
 constexpr int FASE_MAX = 24;  // game phase with all pieces on the board
 
+// What so many pieces add to the game phase.
+constexpr int FaseDePiezas(int menores, int torres, int damas) {
+    return menores + 2 * torres + 4 * damas;
+}
+
 // Puts the material of each side, with its adjustments, into Puntos_OP and Puntos_EG, over whatever they held.
 void Material_Imbalance();
 

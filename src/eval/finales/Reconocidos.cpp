@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "eval/Material.h"
 #include "eval/Pesos.h"
 
 constexpr int TABLAS_MUERTAS   = 0;
@@ -13,7 +14,11 @@ constexpr int PEONES_CON_REGLA = 3;
 constexpr int FASE_CON_PEONES = 7;
 constexpr int PEONES_MAX      = 16;
 
-constexpr int VENTAJA_MENOR    = 3;  // pawns that a minor piece is worth
+// In pawns, for leads in pieces: a minor piece, a rook, a queen.
+constexpr int VENTAJA_MENOR = 3;
+constexpr int VENTAJA_TORRE = 5;
+constexpr int VENTAJA_DAMA  = 9;
+
 constexpr int PEONES_COMPENSAN = 2;  // they make up for a lead as large; for a single one the defender gives a piece
 
 // What the material of two sides given in this order deserves, or no weight. After the practice and statistics of
@@ -78,14 +83,14 @@ int FinalesReconocidos(int pb, int cb, int ab, int tb, int db, int pn, int cn, i
     if (pb + pn <= PEONES_CON_REGLA && piezas <= PIEZAS_CON_REGLA) {
         const std::uint64_t blancas = ClaveMaterial(pb, cb, ab, tb, db);
         const std::uint64_t negras  = ClaveMaterial(pn, cn, an, tn, dn);
-        const int           ventaja = 3 * (cb + ab - cn - an) + 5 * (tb - tn) + 9 * (db - dn);
-        factor                      = FactorOrdenado(Enfrentadas(blancas, negras));
+        const int ventaja = VENTAJA_MENOR * (cb + ab - cn - an) + VENTAJA_TORRE * (tb - tn) + VENTAJA_DAMA * (db - dn);
+        factor            = FactorOrdenado(Enfrentadas(blancas, negras));
         if (factor == nullptr) factor = FactorOrdenado(Enfrentadas(negras, blancas));
         if (factor == nullptr && piezas == 0) return SIN_CAMBIO;  // pawns against pawns
         if (factor == nullptr) factor = FactorComun(ventaja, pb, pn, db + dn > 0);
         if (factor == nullptr) factor = FactorComun(-ventaja, pn, pb, db + dn > 0);
     }
-    if (factor == nullptr) factor = FactorPorPeones(pb + pn, cb + ab + cn + an + 2 * (tb + tn) + 4 * (db + dn));
+    if (factor == nullptr) factor = FactorPorPeones(pb + pn, FaseDePiezas(cb + ab + cn + an, tb + tn, db + dn));
     if (factor == nullptr) return SIN_CAMBIO;
     Trazar(*factor, 1, BLANCO, Acumulador::Factor);
     return *factor;
