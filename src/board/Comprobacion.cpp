@@ -3,6 +3,7 @@
 #ifndef NDEBUG
 
 #include <algorithm>
+#include <bit>
 #include <cassert>
 #include <cstring>
 #include <iterator>
@@ -29,10 +30,6 @@ static void CopiarContadores(const RegistroBando& bando, int (&contadores)[5]) {
     contadores[4] = bando.Damas;
 }
 
-static long NumeroDe(int pieza, const RegistroTablero& t) {
-    return std::count(t.Casillas, t.Casillas + 64, pieza);
-}
-
 // The sets against the board that they shadow.
 static void ComprobarSombra(const RegistroTablero& t) {
     Conjunto piezas[CODIGOS] = {};
@@ -45,6 +42,11 @@ static void ComprobarSombra(const RegistroTablero& t) {
     }
     assert(std::equal(std::begin(piezas), std::end(piezas), t.Piezas));
     assert(std::equal(std::begin(bandos), std::end(bandos), t.Bandos));
+}
+
+// By the sets, once ComprobarSombra has found them right.
+static int NumeroDe(int pieza, const RegistroTablero& t) {
+    return std::popcount(t.Piezas[pieza]);
 }
 
 // Sets, counters, king squares and the fields of the record against the board.
