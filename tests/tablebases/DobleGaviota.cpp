@@ -30,6 +30,7 @@ static const char* Lista(const char** puntero) {
         Anotar(" |");                                                                                                  \
         for (int i = 0; i == 0 || cn[i - 1] != 64; ++i) Anotar(" %u@%u", pn[i], cn[i]);                                \
         Anotar(" | %u) ", *r);                                                                                         \
+        if (doble.AntesDeSondear != nullptr) doble.AntesDeSondear();                                                   \
         if (doble.Responde == 1) *r = doble.Resultado;                                                                 \
         *plies = doble.Plies;                                                                                          \
         return doble.Responde;                                                                                         \

@@ -7,4 +7,5 @@ struct DobleGaviota {
     unsigned    Iniciada, Disponibilidad;  // the first of tb_is_initialized and tbcache_is_on
     int         Responde;                  // answer of a probe
     unsigned    Resultado, Plies;
+    void (*AntesDeSondear)() = nullptr;  // called before a probe is answered, nullptr = nothing
 };
