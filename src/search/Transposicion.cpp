@@ -121,6 +121,11 @@ void CrearTransposicion(int megas) {
     IniciarContadores();  // the memory itself comes empty
 }
 
+void OcuparTransposicion() {
+    OcuparMemoria(TT_Datos, BytesDatos);
+    OcuparMemoria(TT_Cache, BytesCache);
+}
+
 void LimpiarTransposicion() {
     if (VaciarMemoria(TT_Datos, BytesDatos) == 0) QuedarseSinMemoria();
     LimpiarCache();

@@ -90,6 +90,7 @@ inline EntradaCache& EntradaCacheDe(std::uint64_t key) {
 // runs out it prints a line and raises Salir.
 void CrearTransposicion(int megas);
 void LiberarTransposicion();
+void OcuparTransposicion();   // takes the memory of both, still empty, from the system before a search has to wait
 void LimpiarTransposicion();  // empties the table and the cache, age 1; fails as CrearTransposicion
 void LimpiarCache();          // empties the evaluation cache alone
 

@@ -34,9 +34,11 @@ static void ComandoUci(const char* /*resto*/) {
     Imprimir("uciok\n");
 }
 
+// The one moment at which the interface waits for us: what takes long is done here and not on the clock of a search.
 static void ComandoIsReady(const char* /*resto*/) {
     ActualizarGaviota();
     CrearTransposicion(HashTotal());
+    OcuparTransposicion();
     Imprimir("readyok\n");
 }
 

@@ -14,9 +14,12 @@ TEST(Memoria, EntregaYVaciaBloquesAlineadosYDevuelveLosGrandes) {
         EXPECT_EQ(reinterpret_cast<std::uintptr_t>(bloque) % 64, 0U);
         for (const int vez : {0, 1}) {
             EXPECT_EQ(bloque[0] | bloque[bytes / 2] | bloque[bytes - 1], 0) << vez;
+            OcuparMemoria(bloque, bytes);
+            unsigned char presente = 0;
+            ASSERT_EQ(mincore(bloque + (bytes - 1) / PAGINA_GRANDE * PAGINA_GRANDE, 1, &presente), 0);
+            EXPECT_EQ(presente & 1, 1);
             bloque[0] = bloque[bytes / 2] = bloque[bytes - 1] = 1;
             EXPECT_EQ(VaciarMemoria(bloque, bytes), 1);
-            unsigned char presente = 0;
             ASSERT_EQ(mincore(bloque, 1, &presente), 0);
             EXPECT_EQ(presente & 1, bytes > BLOQUE_ESCRITO ? 0 : 1);
         }
