@@ -1,13 +1,16 @@
 #include "eval/finales/Reconocidos.h"
 
 #include <array>
+#include <bit>
 #include <cstdlib>
 #include <sstream>
 
+#include "board/Ataques.h"
 #include "board/Puntuacion.h"
 #include "eval/Evaluacion.h"
 #include "eval/finales/Dificiles.h"
 #include "eval/finales/Evaluadores.h"
+#include "eval/finales/Kbnk.h"
 #include "eval/finales/Kpk.h"
 #include "eval/finales/Kqkp.h"
 #include "search/Buscar.h"
@@ -141,16 +144,58 @@ TEST_F(Finales, GanadasDeReyYPeon) {
     EXPECT_EQ(ganadas, 222564);
 }
 
+static int JugadasDeAlfilYCaballo() {
+    const auto casilla = [](int pieza) { return std::countr_zero(TableroGlobal.Piezas[pieza]); };
+    if (casilla(ALFIL_B) == 64 || casilla(CABALLO_B) == 64) return KBNK_SIN_MATE;
+    return KbnkJugadas(casilla(REY_B), casilla(ALFIL_B), casilla(CABALLO_B), casilla(REY_N),
+                       TableroGlobal.Turno == BLANCO);
+}
+
+// Each distance against those after all legal moves; the longest one is a published figure.
+TEST_F(Finales, DistanciasDeAlfilYCaballo) {
+    std::mt19937 azar(5);
+    for (int i = 0; i < 6000; ++i) {
+        std::string casillas(64, '1');
+        for (const char pieza : {'K', 'B', 'N', 'k'}) casillas[azar() % 64] = pieza;
+        if (std::ranges::count(casillas, '1') != 60) continue;
+        Fen(EscribirFen(casillas, i % 2 == 0 ? 'w' : 'b'));
+        const bool fuerte = TableroGlobal.Turno == BLANCO;
+        if (fuerte ? JaqueNegras(TableroGlobal.PosicionReyNegro) : JaqueBlancas(TableroGlobal.PosicionReyBlanco))
+            continue;
+        std::vector<int> siguientes;
+        for (const std::uint32_t mov : Generar()) {
+            if (HacerMovimiento(mov)) siguientes.push_back(JugadasDeAlfilYCaballo());
+            DeshacerMovimiento();
+        }
+        int esperadas = KBNK_SIN_MATE;
+        if (fuerte) {
+            std::erase(siguientes, KBNK_SIN_MATE);
+            if (!siguientes.empty()) esperadas = std::ranges::min(siguientes) + 1;
+        } else if (siguientes.empty()) {
+            esperadas = TurnoEnJaque() ? 0 : KBNK_SIN_MATE;
+        } else if (std::ranges::count(siguientes, KBNK_SIN_MATE) == 0) {
+            esperadas = std::ranges::max(siguientes);
+        }
+        ASSERT_EQ(JugadasDeAlfilYCaballo(), esperadas) << casillas << (fuerte ? " w" : " b");
+    }
+    int maximo = 0;
+    for (int i = 0; i < 64 * 64 * 64; ++i)
+        maximo = std::max(maximo, KbnkJugadas(i >> 12, 2, i >> 6 & 63, i & 63, true));
+    EXPECT_EQ(maximo, KBNK_JUGADAS_MAX);
+}
+
 // The engine against itself, from a fixed start each; the fifty-move rule would end a game that makes no progress.
 TEST_F(Finales, ElMotorDaMateAlReySolo) {
     Arrancar(1);
     TipoJuego.ShowPv = SHOWPV_NONE;
-    for (const char* fen : {"8/8/8/3k4/8/8/8/KQ6 w - - 0 1", "kr6/8/8/8/4K3/8/8/8 b - - 0 1",
-                            "8/8/8/3k4/8/8/8/KBB5 w - - 0 1", "knb5/8/8/8/4K3/8/8/8 b - - 0 1"}) {
+    for (const auto& [fen, plies] :
+         {std::pair{"8/8/8/3k4/8/8/8/KQ6 w - - 0 1", 100}, std::pair{"kr6/8/8/8/4K3/8/8/8 b - - 0 1", 100},
+          std::pair{"8/8/8/3k4/8/8/8/KBB5 w - - 0 1", 100},
+          std::pair{"knb5/8/8/8/4K3/8/8/8 b - - 0 1", 2 * KBNK_JUGADAS_MAX}}) {
         Fen(fen);
         LimpiarBusqueda();
         int puntos = 0;
-        for (int ply = 0; ply < 100 && puntos != -VALOR_MATE; ++ply) {
+        for (int ply = 0; ply < plies && puntos != -VALOR_MATE; ++ply) {
             TipoJuego.ProfundidadLimite = 8;
             puntos                      = BuscarIterativo();
             if (TipoJuego.MejorMovimiento != 0) HacerMovimiento(TipoJuego.MejorMovimiento);

@@ -1,35 +1,18 @@
 // Mating a bare king, and the wins of heavy pieces that start with driving the king to the edge.
 #include <algorithm>
-#include <cstddef>
 
 #include "eval/Pesos.h"
 #include "eval/finales/Evaluadores.h"
+#include "eval/finales/Kbnk.h"
 #include "eval/finales/Kpk.h"
 
 // Centipawns a step, in the way a win is made: king to the edge, kings together, pawns forward.
 constexpr int PESO_BORDE  = 10;
 constexpr int PESO_REYES  = 6;
 constexpr int PESO_AVANCE = 8;
-
-constexpr int PESO_CABALLO = 2;  // the knight towards the king, when it mates with the bishop
+constexpr int PESO_JUGADA = 10;  // a move nearer to the mate, where a table knows it
 
 constexpr int DISTANCIA_MAX = 7;
-
-// Bishop and knight mate only in a corner of the bishop's colour. The value falls along the edge from those corners,
-// so that a king in a wrong corner is worth driving out, and stays lower away from the edge. Light-squared bishop;
-// for a dark-squared one the files are mirrored.
-// clang-format off
-constexpr int RINCON_CABALLO_ALFIL[64] = {  // centipawns
-//    a    b    c    d    e    f    g    h
-    100,  90,  80,  70,  60,  50,  45,  40,   // 8
-     90,  80,  65,  55,  45,  35,  30,  45,   // 7
-     80,  65,  40,  30,  25,  20,  35,  50,   // 6
-     70,  55,  30,  10,   5,  25,  45,  60,   // 5
-     60,  45,  25,   5,  10,  30,  55,  70,   // 4
-     50,  35,  20,  25,  30,  40,  65,  80,   // 3
-     45,  30,  35,  45,  55,  65,  80,  90,   // 2
-     40,  45,  50,  60,  70,  80,  90, 100};  // 1
-// clang-format on
 
 struct RecuentoFuerte {
     int  Peones;
@@ -68,13 +51,12 @@ static int PuntosVictoria(const RegistroFinal& pos, int progreso) {
     return std::min(VICTORIA + ValorMaterial(pos, PEON_B) + AvancePeones(pos) + progreso, VICTORIA_MAXIMA);
 }
 
-static int ProgresoCaballoAlfil(const RegistroFinal& pos) {
-    const int rey    = Una(pos, REY_B);
-    const int debil  = Una(pos, REY_N);
-    const int espejo = ColorCasilla(Una(pos, ALFIL_B)) == ColorCasilla(0) ? 0 : 7;
-    return RINCON_CABALLO_ALFIL[static_cast<std::size_t>(debil ^ espejo)] +
-           PESO_REYES * (DISTANCIA_MAX - DistanciaRey(rey, debil)) - LejosDelCentro(rey) -
-           PESO_CABALLO * DistanciaRey(Una(pos, CABALLO_B), debil);
+// Bishop and knight mate only in a corner of the bishop's colour, and the way there is long and narrow: no measure of
+// the places alone leads a search of a few moves through it before the fifty moves are over.
+static int EvaluarCaballoAlfil(const RegistroFinal& pos) {
+    const int jugadas =
+        KbnkJugadas(Una(pos, REY_B), Una(pos, ALFIL_B), Una(pos, CABALLO_B), Una(pos, REY_N), pos.MueveFuerte);
+    return jugadas == KBNK_SIN_MATE ? TABLAS_SEGURAS : PuntosVictoria(pos, PESO_JUGADA * (KBNK_JUGADAS_MAX - jugadas));
 }
 
 // Some pawn would win if the others and the pieces were not there.
@@ -89,7 +71,7 @@ int EvaluarReySolo(const RegistroFinal& pos) {
     if (PuedenDarMate(fuerzas)) {
         const bool caballoAlfil =
             fuerzas.Caballos == 1 && fuerzas.Alfiles == 1 && fuerzas.Pesadas + fuerzas.Peones == 0;
-        return PuntosVictoria(pos, caballoAlfil ? ProgresoCaballoAlfil(pos) : Acoso(pos));
+        return caballoAlfil ? EvaluarCaballoAlfil(pos) : PuntosVictoria(pos, Acoso(pos));
     }
     if (fuerzas.Peones == 0 || EsFortalezaPeonTorre(pos)) return TABLAS_SEGURAS;
     if (GanaAlgunPeon(pos)) return PuntosVictoria(pos, 0);
