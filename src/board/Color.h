@@ -59,6 +59,11 @@ template <int C>
 constexpr int ESQUINA_LARGA = CASA_REY<C> - 4;
 
 template <int C>
+inline bool TieneElTurno() {
+    return TableroGlobal.Turno == C;
+}
+
+template <int C>
 inline RegistroBando& BandoDe() {
     return C == BLANCO ? Blancas : Negras;
 }

@@ -10,6 +10,10 @@ constexpr int att_on_hang_mg[16] = {0, 11, 15, 15, 17, 25,  0,  0, 11, 15, 15, 1
 constexpr int att_on_hang_eg[16] = {0, 19, 23, 23, 25, 33,  0,  0, 19, 23, 23, 25, 33,  0,  0,  0};
 // clang-format on
 
+static Conjunto Piezas(const ConjuntosBando& bando) {
+    return bando.Todas ^ bando.Peones ^ bando.Rey;
+}
+
 // Attacked pieces that nothing defends. Each counts once, however many attack it.
 template <int C>
 static void EvaluarColgadas() {
@@ -29,11 +33,12 @@ static void EvaluarColgadas() {
 // A piece that more enemies attack than own pieces defend, although it is no loose piece.
 template <int C>
 static void EvaluarAsediadas() {
-    const ConjuntosBando& propios = Conjuntos[C];
-    const ConjuntosBando& rival   = Conjuntos[RIVAL<C>];
-    const Conjunto        una_vez = ConUnoOMas(rival.Ataques) & ~ConDosOMas(rival.Ataques) & ~rival.Ataque_Peones;
-    Sumar<C>(PESOS.ASEDIO_A_PIEZA,
-             Cuantas(ConDosOMas(propios.Ataques) & una_vez & (rival.Todas ^ rival.Peones ^ rival.Rey)));
+    const ConjuntosBando& propios   = Conjuntos[C];
+    const ConjuntosBando& rival     = Conjuntos[RIVAL<C>];
+    const Conjunto        una_vez   = ConUnoOMas(rival.Ataques) & ~ConDosOMas(rival.Ataques) & ~rival.Ataque_Peones;
+    const int             asediadas = Cuantas(ConDosOMas(propios.Ataques) & una_vez & Piezas(rival));
+    Sumar<C>(PESOS.ASEDIO_A_PIEZA, asediadas);
+    if (TieneElTurno<C>()) Sumar<C>(PESOS.ASEDIO_CON_TURNO, asediadas);
 }
 
 template <int C>
@@ -44,8 +49,10 @@ static void EvaluarAvances() {
     const Conjunto        avances = un_paso | (Avanzar<C>(un_paso & FilaEntera<C>(2)) & ~Ocupadas);
     const Conjunto        seguros =
         avances & ~rival.Ataque_Peones & (ConUnoOMas(propios.Ataques) | ~ConUnoOMas(rival.Ataques));
-    const Conjunto piezas = (rival.Todas ^ rival.Peones ^ rival.Rey) & ~propios.Ataque_Peones;
-    Sumar<C>(PESOS.AVANCE_A_PIEZA, Cuantas(AtaquesDePeones<C>(seguros) & piezas));
+    const Conjunto piezas   = Piezas(rival) & ~propios.Ataque_Peones;
+    const int      amenazas = Cuantas(AtaquesDePeones<C>(seguros) & piezas);
+    Sumar<C>(PESOS.AVANCE_A_PIEZA, amenazas);
+    if (TieneElTurno<C>()) Sumar<C>(PESOS.AVANCE_CON_TURNO, amenazas);
 }
 
 // The enemy queen with one piece between her and a rook or bishop: the piece is tied to its place, or leaves it with a
@@ -82,8 +89,7 @@ static void EvaluarDesprotegidas() {
     Sumar<C>(PESOS.PIEZA_A_PEON, Cuantas((menores | propios.Ataque_Torres) & rival.Peones & sin_peon));
     Sumar<C>(PESOS.REY_A_PEON, Cuantas(propios.Ataque_Rey & rival.Peones & sin_nada));
     Sumar<C>(PESOS.REY_A_PIEZA, Cuantas(propios.Ataque_Rey & (presas | rival.Torres) & sin_nada));
-    Sumar<C>(PESOS.PENALIZACION_PIEZA_SUELTA,
-             -Cuantas((propios.Todas ^ propios.Peones ^ propios.Rey) & ~ConUnoOMas(propios.Ataques)));
+    Sumar<C>(PESOS.PENALIZACION_PIEZA_SUELTA, -Cuantas(Piezas(propios) & ~ConUnoOMas(propios.Ataques)));
 }
 
 template <int C>
@@ -104,7 +110,32 @@ static void EvaluarAmenazasDe() {
     EvaluarDamasTrasPieza<C>();
 }
 
+// Enemy pieces that C would win something by taking: worth more than an attacker of theirs, or guarded by nothing.
+template <int C>
+static Conjunto Amenazadas() {
+    const ConjuntosBando& propios = Conjuntos[C];
+    const ConjuntosBando& rival   = Conjuntos[RIVAL<C>];
+    const Conjunto        menores = propios.Ataque_Caballos | propios.Ataque_Alfiles;
+    return Piezas(rival) &
+           (propios.Ataque_Peones | (menores & (rival.Torres | rival.Damas)) | (propios.Ataque_Torres & rival.Damas) |
+            (ConUnoOMas(propios.Ataques) & ~ConUnoOMas(rival.Ataques)));
+}
+
+// What threats are worth because C is to move: it parries one of the enemy's, but no two, and may attack what is loose.
+template <int C>
+static void EvaluarTurno() {
+    const ConjuntosBando& rival     = Conjuntos[RIVAL<C>];
+    const Conjunto        blancos   = rival.Caballos | rival.Alfiles | rival.Damas;
+    const int             recibidas = Cuantas(Amenazadas<RIVAL<C>>());
+    if (recibidas > 1) Sumar<C>(PESOS.PENALIZACION_OTRA_AMENAZA, 1 - recibidas);
+    Sumar<C>(PESOS.SUELTA_CON_TURNO, Cuantas(blancos & ~ConUnoOMas(rival.Ataques)));
+}
+
 void EvaluarAmenazas() {
     EvaluarAmenazasDe<BLANCO>();
     EvaluarAmenazasDe<NEGRO>();
+    if (TieneElTurno<BLANCO>())
+        EvaluarTurno<BLANCO>();
+    else
+        EvaluarTurno<NEGRO>();
 }

@@ -14,9 +14,15 @@ static void EvaluarCamino(int fila, int delante) {
     const ConjuntosBando& rival    = Conjuntos[RIVAL<C>];
     const Conjunto        paso     = Bit(delante);
     const Conjunto        atacadas = ConUnoOMas(rival.Ataques);
-    if ((paso & Ocupadas) == 0) Sumar<C>(PESOS.PASADO_LIBRE[fila]);
+    if ((paso & Ocupadas) == 0) {
+        Sumar<C>(PESOS.PASADO_LIBRE[fila]);
+        if (TieneElTurno<C>()) Sumar<C>(PESOS.PASADO_TURNO[fila]);
+    }
     if ((paso & atacadas) == 0) Sumar<C>(PESOS.PASADO_SEGURO[fila]);
-    if ((HastaElFinal<C>(paso) & (atacadas | rival.Todas)) == 0) Sumar<C>(PESOS.PASADO_CAMINO[fila]);
+    if ((HastaElFinal<C>(paso) & (atacadas | rival.Todas)) == 0) {
+        Sumar<C>(PESOS.PASADO_CAMINO[fila]);
+        if (TieneElTurno<C>()) Sumar<C>(PESOS.PASADO_TURNO_CAMINO[fila]);
+    }
     if ((paso & ConUnoOMas(Conjuntos[C].Ataques)) != 0) Sumar<C>(PESOS.PASADO_APOYADO[fila]);
 }
 

@@ -201,36 +201,45 @@ struct RegistroPesos {
     Par PENALIZACION_TORRE_ENCERRADA    = { 16,  23};  // shut in by its king: for each square short of four
 
     // ---- Threats.
-    Par PEON_A_MENOR   = { 44,  24};
-    Par PEON_A_TORRE   = { 24,   2};
-    Par PEON_A_DAMA    = {  7,  16};
-    Par MENOR_A_TORRE  = { 28, -14};
-    Par MENOR_A_DAMA   = {  4,  29};
-    Par TORRE_A_DAMA   = { 36,   7};
-    Par ASEDIO_A_PIEZA = { 21,  52};  // more attackers than defenders
-    Par AVANCE_A_PIEZA = { 16,  18};  // a pawn step that nothing punishes would attack the piece
+    Par PEON_A_MENOR   = { 51,  25};
+    Par PEON_A_TORRE   = { 26,   1};
+    Par PEON_A_DAMA    = { 12,  17};
+    Par MENOR_A_TORRE  = { 31, -20};
+    Par MENOR_A_DAMA   = { 15,  33};
+    Par TORRE_A_DAMA   = { 49,  20};
+    Par ASEDIO_A_PIEZA = { 25,  59};  // more attackers than defenders
+    Par AVANCE_A_PIEZA = { 17,  16};  // a pawn step that nothing punishes would attack the piece
 
-    Par TORRE_A_MENOR     = { 27,  20};  // that no pawn guards, as in the next two
-    Par MENOR_A_MENOR     = { 14,  21};
-    Par PIEZA_A_PEON      = {  2,  15};  // attacked by a knight, bishop or rook
-    Par REY_A_PEON        = { 67, -10};  // that nothing guards
-    Par REY_A_PIEZA       = { 30, -10};
-    Par PENALIZACION_PIEZA_SUELTA = {  8,   4};  // an own piece that nothing guards, attacked or not
-    Par CLAVADA           = { 13,  39};  // an enemy piece between its king and a line piece
-    Par DESCUBIERTA       = {107,  44};  // an own piece there: its move gives check
-    Par DAMA_TRAS_PIEZA   = { 34,   6};  // the enemy queen behind another piece on the line of a rook or bishop
+    Par TORRE_A_MENOR     = { 29,  25};  // that no pawn guards, as in the next two
+    Par MENOR_A_MENOR     = { 16,  24};
+    Par PIEZA_A_PEON      = {  4,  17};  // attacked by a knight, bishop or rook
+    Par REY_A_PEON        = { 79,  -7};  // that nothing guards
+    Par REY_A_PIEZA       = { 51,  -1};
+    Par PENALIZACION_PIEZA_SUELTA = {  5,   1};  // an own piece that nothing guards, attacked or not
+    Par CLAVADA           = {  1,  42};  // an enemy piece between its king and a line piece
+    Par DESCUBIERTA       = {110,  41};  // an own piece there: its move gives check
+    Par DAMA_TRAS_PIEZA   = { 39,  12};  // the enemy queen behind another piece on the line of a rook or bishop
+
+    // ... and what is added to them for the side to move.
+    Par PENALIZACION_OTRA_AMENAZA = { 61,  55};  // each own piece but one that the enemy would win something by taking
+    Par AVANCE_CON_TURNO          = {  4,   7};
+    Par ASEDIO_CON_TURNO          = { 15,  36};
+    Par SUELTA_CON_TURNO          = { 10,   7};  // each enemy knight, bishop or queen that nothing guards
+    Par DESCUBIERTA_CON_TURNO     = { 98,  33};
 
     // ---- Support of passed pawns, by rank as their side counts it, from its back rank on.
-    Par PASADO_BASE[FILAS]       = {{  0,   0}, { -2,  30}, {-14,   2}, {-87,  19}, {-83,  -9}, {  1, -24}, {  8,  23}, {  0,   0}};
-    Par PASADO_REY_PROPIO[FILAS] = {{  0,   0}, {  7,  -2}, { 13, -10}, { 12, -12}, {  7, -12}, {-14, -12}, { -9, -14}, {  0,   0}};  // a king move to the square before it
-    Par PASADO_REY_RIVAL[FILAS]  = {{  0,   0}, { -9,  -4}, {-16,   8}, {  4,   5}, {  2,  14}, {  8,  19}, { 18,  16}, {  0,   0}};
-    Par PASADO_LIBRE[FILAS]      = {{  0,   0}, { -6,   4}, {  9,  -2}, {-10,  10}, { -6,  20}, {  3,  31}, {  0,  48}, {  0,   0}};  // nothing stands before it
-    Par PASADO_SEGURO[FILAS]     = {{  0,   0}, {  2,  10}, { -7,  13}, {-22,  12}, {  2,  18}, { 28,  28}, {-12,  26}, {  0,   0}};  // no enemy attacks the square before it
-    Par PASADO_CAMINO[FILAS]     = {{  0,   0}, {-16,  15}, {-16,  13}, {-82,  36}, {-28,  42}, {-14,  50}, { 30,  59}, {  0,   0}};  // ... nor stands on or attacks its whole way
-    Par PASADO_APOYADO[FILAS]    = {{ 0,  0}, { 3, -3}, { 8, 13}, {-2, 15}, {16, 12}, {32, 17}, {73, 88}, { 0,  0}};  // the square before it is guarded
-    Par PASADO_UNIDO[FILAS]      = {{  0,   0}, {-18,  -1}, {-14,   7}, {  2,   9}, {-12,  34}, { 41,  36}, {  5,  27}, {  0,   0}};  // another one beside it or a rank apart
-    Par PASADO_TORRE_PROPIA      = {  2,  34};  // behind it
-    Par PASADO_TORRE_RIVAL       = {  0, -70};
+    Par PASADO_BASE[FILAS]       = {{  0,   0}, {-15,  30}, {-25,   3}, {-91,  20}, {-90,  -7}, { 10, -22}, { 14,  22}, {  0,   0}};
+    Par PASADO_REY_PROPIO[FILAS] = {{  0,   0}, {  7,  -2}, { 10, -11}, { 11, -13}, {  8, -15}, {-16, -14}, { -9, -16}, {  0,   0}};  // a king move to the square before it
+    Par PASADO_REY_RIVAL[FILAS]  = {{  0,   0}, { -5,  -6}, {-12,   7}, {  8,   4}, {  3,  15}, { 10,  19}, { 18,  17}, {  0,   0}};
+    Par PASADO_LIBRE[FILAS]      = {{  0,   0}, {-15,   5}, { 12,  -4}, {-16,   6}, { -7,  16}, {  0,  24}, {  5,  49}, {  0,   0}};  // nothing stands before it
+    Par PASADO_SEGURO[FILAS]     = {{  0,   0}, { -2,  13}, { -9,  12}, {-24,  13}, {  5,  19}, { 30,  27}, { -9,  30}, {  0,   0}};  // no enemy attacks the square before it
+    Par PASADO_CAMINO[FILAS]     = {{  0,   0}, {-20,  17}, {-20,  18}, {-98,  41}, {-35,  43}, {-17,  53}, { 44,  68}, {  0,   0}};  // ... nor stands on or attacks its whole way
+    Par PASADO_APOYADO[FILAS]    = {{ 0,  0}, { 6, -2}, {10, 13}, {-4, 19}, {16, 14}, {37, 15}, {84, 99}, { 0,  0}};  // the square before it is guarded
+    Par PASADO_UNIDO[FILAS]      = {{  0,   0}, {-21,  -4}, {-18,  11}, {  4,   6}, {-14,  34}, { 35,  40}, {  3,  27}, {  0,   0}};  // another one beside it or a rank apart
+    Par PASADO_TURNO[FILAS]        = {{  0,   0}, {  9,  -3}, {  8,   4}, {  9,   7}, {11,   9}, { 14,  30}, {  3,   4}, {  0,   0}};  // nothing stands before it, its side is to move
+    Par PASADO_TURNO_CAMINO[FILAS] = {{  0,   0}, {  1,  -1}, {-19,  -3}, {-17,   4}, {-9,  15}, {  5,  26}, {  5,  -8}, {  0,   0}};  // ... and its whole way is safe
+    Par PASADO_TORRE_PROPIA      = {  0,  37};  // behind it
+    Par PASADO_TORRE_RIVAL       = {  3, -78};
 
     // ---- King shelter, opening. Ranks as the king's side counts them; the place of the eighth, where no pawn of a
     // real game stands, holds the value of "no pawn from the king's rank on".
@@ -272,45 +281,48 @@ struct RegistroPesos {
     int PESO_JAQUE_DAMA    = 7;
 
     // ---- Pressure on the enemy king that counts by itself, with or without an attack as above.
-    Par JAQUE_SEGURO_CABALLO = { 58,   0};  // the piece may check without being taken
-    Par JAQUE_SEGURO_ALFIL   = {  8,  24};
-    Par JAQUE_SEGURO_TORRE   = { 46,   0};
-    Par JAQUE_SEGURO_DAMA    = {  1,  35};
-    Par JAQUE_CON_RIESGO     = {  2,   0};  // each square of another check by a knight, bishop or rook
-    Par ZONA_ATACADA         = {-10,  -3};  // each attacked square of the king zone
-    Par ZONA_SIN_DEFENSA     = {  9,  -2};  // ... that only the king guards
-    Par FLANCO_ATACADO       = { -1,  -1};  // each attacked square of the king's flank, on his half of the board
-    Par FLANCO_DOS_VECES     = {  2,   2};  // ... attacked twice
-    Par FLANCO_SIN_PEONES    = {-30,  60};  // no pawn of either side on it
+    Par JAQUE_SEGURO_CABALLO = { 59,  -6};  // the piece may check without being taken
+    Par JAQUE_SEGURO_ALFIL   = {  6,  28};
+    Par JAQUE_SEGURO_TORRE   = { 39,   3};
+    Par JAQUE_SEGURO_DAMA    = {-12,  28};
+    Par JAQUE_CON_RIESGO     = { -6,   0};  // each square of another check by a knight, bishop or rook
+    Par ZONA_ATACADA         = {-15,  -6};  // each attacked square of the king zone
+    Par ZONA_SIN_DEFENSA     = { 12,  -2};  // ... that only the king guards
+    Par FLANCO_ATACADO       = { -3,  -1};  // each attacked square of the king's flank, on his half of the board
+    Par FLANCO_DOS_VECES     = {  0,   2};  // ... attacked twice
+    Par FLANCO_SIN_PEONES    = {-35,  72};  // no pawn of either side on it
 
     // With an enemy queen on the board: half of the squares from which she would see the king, more counting as the last.
     Par REY_EXPUESTO[EXPOSICIONES] = {
-        {  5, -30}, {  4, -22}, {  4, -10}, {  2,   9}, {  0,  18}, {  4,  24}, { 15,  19},   // 0..6
-        { 36, -16}, { 54,  -8}, { 62, -18}, { 64, -15}, { 16, -10}, { -6,  11}, {  1,  14}};  // 7..13
+        { 12, -35}, {  8, -28}, {  5, -14}, {  2,   5}, { -2,  14}, {  5,  17}, { 19,   4},   // 0..6
+        { 35, -36}, { 61, -22}, { 67, -31}, { 65, -30}, { 17, -20}, { -7,   7}, {  1,  14}};  // 7..13
 
     // ---- Danger of the enemy king, in units of Peligro, whose square counts (see PuntosPeligro).
-    int PELIGRO_JAQUE_CABALLO    = 12;  // the piece may check without being taken
-    int PELIGRO_JAQUE_ALFIL      = 28;
-    int PELIGRO_JAQUE_TORRE      = 56;
-    int PELIGRO_JAQUE_DAMA       = 59;
-    int PELIGRO_JAQUE_RIESGO     = 36;  // each square of another check by a knight, bishop or rook
-    int PELIGRO_ZONA_PEON        = 44;  // each square of the king zone that a pawn attacks
-    int PELIGRO_ZONA_CABALLO     = 34;  // ... knights, and so on
+    int PELIGRO_JAQUE_CABALLO    = 14;  // the piece may check without being taken
+    int PELIGRO_JAQUE_ALFIL      = 15;
+    int PELIGRO_JAQUE_TORRE      = 55;
+    int PELIGRO_JAQUE_DAMA       = 63;
+    int PELIGRO_JAQUE_RIESGO     = 38;  // each square of another check by a knight, bishop or rook
+    int PELIGRO_ZONA_PEON        = 43;  // each square of the king zone that a pawn attacks
+    int PELIGRO_ZONA_CABALLO     = 30;  // ... knights, and so on
     int PELIGRO_ZONA_ALFIL       = 36;
-    int PELIGRO_ZONA_TORRE       = 12;
-    int PELIGRO_ZONA_DAMA        = 25;
-    int PELIGRO_ZONA_DEBIL       = 1;  // each attacked square of it that only the king guards
-    int PELIGRO_ATACANTE         = -4;  // each piece that attacks the zone
+    int PELIGRO_ZONA_TORRE       = 11;
+    int PELIGRO_ZONA_DAMA        = 20;
+    int PELIGRO_ZONA_DEBIL       = 4;  // each attacked square of it that only the king guards
+    int PELIGRO_ATACANTE         = -2;  // each piece that attacks the zone
     int PELIGRO_CLAVADA          = 76;
     int PELIGRO_FLANCO_ATACADO   = 12;  // each attacked square of the king's flank, on his half of the board
-    int PELIGRO_FLANCO_DOS_VECES = 10;  // ... attacked twice
-    int PELIGRO_FLANCO_SUYO      = -4;  // ... that his own side attacks
-    int PELIGRO_EXPUESTO         = 1;  // each square from which a queen would see him
-    int PELIGRO_PEON_SUYO        = -10;   // each own pawn beside or in front of him
-    int PELIGRO_CABALLO_SUYO     = -32;  // an own knight guards his zone
-    int PELIGRO_ALFIL_SUYO       = -28;
-    int PELIGRO_CON_DAMA         = 30;  // to begin with, by whether the attacker has a queen
-    int PELIGRO_SIN_DAMA         = -68;
+    int PELIGRO_FLANCO_DOS_VECES = 12;  // ... attacked twice
+    int PELIGRO_FLANCO_SUYO      = -5;  // ... that his own side attacks
+    int PELIGRO_EXPUESTO         = 0;  // each square from which a queen would see him
+    int PELIGRO_PEON_SUYO        = -6;    // each own pawn beside or in front of him
+    int PELIGRO_CABALLO_SUYO     = -27;  // an own knight guards his zone
+    int PELIGRO_ALFIL_SUYO       = -23;
+    int PELIGRO_TURNO            = 67;   // the attacker is to move
+    int PELIGRO_TURNO_JAQUE      = 36;   // ... for each kind of piece with a safe check
+    int PELIGRO_TURNO_ATACANTE   = -12;  // ... for each piece that attacks the zone
+    int PELIGRO_CON_DAMA         = 45;  // to begin with, by whether the attacker has a queen
+    int PELIGRO_SIN_DAMA         = -47;
 
     // ---- Endings recognised by their material: percentage of the normal score. Never 0, which would make a dead draw
     // of them.

@@ -175,6 +175,17 @@ static void EvaluarJaques(const Cerco& cerco) {
     Presionar<C>(PESOS.JAQUE_CON_RIESGO, PESOS.PELIGRO_JAQUE_RIESGO, Cuantas(arriesgado));
 }
 
+// With the move, dangers become facts sooner.
+template <int C>
+static void EvaluarTurno(const Cerco& cerco) {
+    if (!TieneElTurno<C>()) return;
+    const auto hay = [&cerco](Conjunto jaques) { return (jaques & cerco.Seguras) != 0 ? 1 : 0; };
+    SumarPeligro<C>(PESOS.PELIGRO_TURNO);
+    SumarPeligro<C>(PESOS.PELIGRO_TURNO_JAQUE,
+                    hay(cerco.JaquesCaballo) + hay(cerco.JaquesAlfil) + hay(cerco.JaquesTorre) + hay(cerco.JaquesDama));
+    SumarPeligro<C>(PESOS.PELIGRO_TURNO_ATACANTE, BandoDe<C>().Ataque_Numero);
+}
+
 // The king's zone: what attacks it, and what of his own stands or looks there.
 template <int C>
 static void EvaluarZona(const Cerco& cerco) {
@@ -213,7 +224,9 @@ static void EvaluarClavadas(const Cerco& cerco) {
     const Conjunto        alfiles = LINEAS_ALFIL[rey] & (propios.Alfiles | propios.Damas) & ~cerco.Diagonales;
     if ((torres | alfiles) == 0) return;
     Presionar<C>(PESOS.CLAVADA, PESOS.PELIGRO_CLAVADA, PiezasTras(cerco, torres, alfiles, rival.Todas ^ rival.Peones));
-    Sumar<C>(PESOS.DESCUBIERTA, PiezasTras(cerco, torres, alfiles, propios.Todas ^ propios.Peones));
+    const int descubiertas = PiezasTras(cerco, torres, alfiles, propios.Todas ^ propios.Peones);
+    Sumar<C>(PESOS.DESCUBIERTA, descubiertas);
+    if (TieneElTurno<C>()) Sumar<C>(PESOS.DESCUBIERTA_CON_TURNO, descubiertas);
 }
 
 // The king's flank on his half of the board, and how openly he stands.
@@ -239,6 +252,7 @@ static void EvaluarAsalto() {
     const Cerco cerco = MirarCerco<C>();
     EvaluarAtaque<C>(cerco);
     EvaluarJaques<C>(cerco);
+    EvaluarTurno<C>(cerco);
     EvaluarZona<C>(cerco);
     EvaluarClavadas<C>(cerco);
     EvaluarFlanco<C>(cerco);

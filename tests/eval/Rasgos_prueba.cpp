@@ -39,6 +39,7 @@ constexpr Pareja AMENAZAS[] = {
     {"bishop on a queen", "6k1/8/4p3/3q4/8/1B6/8/6K1 w - - 0 1", "6k1/8/4p3/3b4/8/1B6/8/6K1 w - - 0 1"},
     {"rook on a queen", "6k1/8/4p3/3q4/8/8/8/3RK3 w - - 0 1", "6k1/8/4p3/3r4/8/8/8/3RK3 w - - 0 1"},
     {"two attackers, one defender", "8/8/4k3/3n4/8/1B6/8/3R2K1 w - - 0 1", "8/8/2b1k3/3n4/8/1B6/8/3R2K1 w - - 0 1"},
+    {"one threat to parry, not two", "1k6/8/4p1p1/3N4/7R/8/8/6K1 w - - 0 1", "1k6/8/4p3/3N2p1/7R/8/8/6K1 w - - 0 1"},
     {"a step about to attack", "6k1/8/4p3/3n4/8/4P3/8/6K1 w - - 0 1", "6k1/8/4p3/3n4/4p3/4P3/8/6K1 w - - 0 1"},
 };
 constexpr Pareja REFUGIO[] = {

@@ -80,13 +80,14 @@ constexpr Caso TORRES[] = {
     {"same, the second is loose", "4k3/p7/8/p7/1p2R2n/P7/8/KQ6 b - - 0 1", {2 + 14, 14, 12, 24, 20, 10, 51, 1}},
 };
 
-// Queens, because other attackers have terms of their own, and guarded, because loose pieces have one too.
+// Queens, because other attackers have terms of their own, and guarded, because loose pieces have one too; Black to
+// move, because the turn adds to attacks on loose pieces.
 constexpr Caso COLGADAS[] = {
-    {"a loose pawn", "6k1/3p4/8/8/8/8/8/3QK3 w - - 0 1", {11, 19}},
-    {"knight that a rook defends", "3r2k1/8/8/3n4/8/8/8/3QK3 w - - 0 1", {0, 0}},
-    {"two attackers count once", "6k1/8/8/3n4/8/1Q6/2K5/3Q4 w - - 0 1", {15, 23}},
-    {"a loose queen", "6k1/8/8/q7/8/8/3Q4/4K3 w - - 0 1", {25, 33}},
-    {"a king in check is no hanging piece", "3k4/8/8/8/8/8/8/3QK3 w - - 0 1", {0, 0}},
+    {"a loose pawn", "6k1/3p4/8/8/8/8/8/3QK3 b - - 0 1", {11, 19}},
+    {"knight that a rook defends", "3r2k1/8/8/3n4/8/8/8/3QK3 b - - 0 1", {0, 0}},
+    {"two attackers count once", "6k1/8/8/3n4/8/1Q6/2K5/3Q4 b - - 0 1", {15, 23}},
+    {"a loose queen", "6k1/8/8/q7/8/8/3Q4/4K3 b - - 0 1", {25, 33}},
+    {"a king in check is no hanging piece", "3k4/8/8/8/8/8/8/3QK3 b - - 0 1", {0, 0}},
 };
 // clang-format on
 
