@@ -60,10 +60,14 @@ int LeerBytes(char* destino, int capacidad) {
 void* ReservarMemoria(std::size_t bytes) {
     return bytes == 0 || bytes > BLOQUE_MAX ? nullptr : std::calloc(bytes, 1);
 }
+
+void OcuparMemoria(void* /*memoria*/, std::size_t /*bytes*/) {}
+
 int VaciarMemoria(void* memoria, std::size_t bytes) {
     if (memoria != nullptr) std::memset(memoria, 0, bytes);
     return 1;
 }
+
 void LiberarMemoria(void* memoria, std::size_t /*bytes*/) {
     std::free(memoria);
 }

@@ -23,8 +23,9 @@ static void CrearLibro(const char* tabla, Bytes filas) {
     sqlite3_exec(base, tabla, nullptr, nullptr, nullptr);
     sqlite3_prepare_v2(base, "INSERT INTO Book (Partida) VALUES (?)", -1, &fila, nullptr);
     while (!filas.Resto.empty()) {
-        const std::string texto = filas.Linea();
-        sqlite3_bind_text(fila, 1, texto.data(), static_cast<int>(texto.size()), SQLITE_TRANSIENT);
+        const std::string texto  = filas.Linea();
+        const char* const letras = texto.empty() ? nullptr : texto.data();  // an empty line is NULL
+        sqlite3_bind_text(fila, 1, letras, static_cast<int>(texto.size()), SQLITE_TRANSIENT);
         sqlite3_step(fila);
         sqlite3_reset(fila);
     }

@@ -20,7 +20,7 @@ static void Responder() {
 void Ejecutar(Bytes bytes) {
     const std::string mensaje = bytes.Linea(), ruta = bytes.Linea(), valor = bytes.Linea();
     const std::string usar    = "setoption name GaviotaTbUse value ";
-    const std::string partida = "isready\nposition fen " + bytes.Fen(6) + "\ngo depth 3\n";
+    const std::string partida = "isready\nposition fen " + bytes.Fen(10) + "\ngo depth 3\n";
     Empezar();
     std::ofstream("kqk.gtb.cp4", std::ios::binary) << bytes.Resto;
     Respuestas           = bytes;
