@@ -1,6 +1,7 @@
 #include "eval/SeguridadRey.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstddef>
 
 #include "eval/Conjuntos.h"
@@ -31,10 +32,12 @@ static constexpr TablaAtaque CalcularAtaques() {
 
 constexpr TablaAtaque KING_ATTACK_MULTI = CalcularAtaques();
 
-// Relative rank of the pawn nearest to the back rank of C; that of the eighth for none.
+// Relative rank of the pawn nearest to the back rank of C, of pawns on the a file; that of the eighth for none.
 template <int C>
 static int FilaMasAtrasada(Conjunto peones) {
-    return C == BLANCO ? FilaRelativa<C>(Ultima(peones | Bit(0))) : FilaRelativa<C>(Primera(peones | Bit(63)));
+    return (C == BLANCO ? std::countl_zero(peones | Bit(En<BLANCO>("a8")))
+                        : std::countr_zero(peones | Bit(En<BLANCO>("a1")))) >>
+           3;
 }
 
 // Shelter of a king of colour C on the given square: its own file and the two beside it. Hands each weight that counts
@@ -45,15 +48,16 @@ static void RecorrerRefugio(int rey, Recibir recibir) {
     const Conjunto        delante = HastaElFinal<C>(FilaEntera<C>(FilaRelativa<C>(rey)));
     const Conjunto        propios = Conjuntos[C].Peones & delante;
     const Conjunto        ajenos  = rival.Peones & delante;
+    const bool            pesadas = (rival.Torres | rival.Damas) != 0;
     const int             centro  = std::clamp(Columna(rey), 1, 6);  // at the edge the third file is the next but one
     for (int columna = centro - 1; columna <= centro + 1; ++columna) {
-        const Conjunto entera = ColumnaEntera(columna);
-        const int      propio = FilaMasAtrasada<C>(propios & entera);
-        const int      ajeno  = FilaMasAtrasada<C>(ajenos & entera);
-        const int      borde  = std::min(columna, 7 - columna);
+        const int propio = FilaMasAtrasada<C>((propios >> columna) & COLUMNA_A);
+        const int ajeno  = FilaMasAtrasada<C>((ajenos >> columna) & COLUMNA_A);
+        const int borde  = std::min(columna, 7 - columna);
         recibir(PESOS.ESCUDO_OP[borde][propio], 1);
         recibir(ajeno == propio + 1 ? PESOS.TORMENTA_BLOQUEADA_OP[ajeno] : PESOS.TORMENTA_OP[ajeno], 1);
-        if ((Conjuntos[C].Peones & entera) == 0 && (rival.Torres | rival.Damas) != 0)
+        const Conjunto entera = ColumnaEntera(columna);
+        if (pesadas && (Conjuntos[C].Peones & entera) == 0)
             recibir((rival.Peones & entera) != 0 ? PESOS.PENALIZACION_COLUMNA_SEMIABIERTA_OP
                                                  : PESOS.PENALIZACION_COLUMNA_ABIERTA_OP,
                     -1);
