@@ -36,7 +36,7 @@ static void CrearLibro(const char* tabla, Bytes filas) {
 
 static void EstropearLibro(Bytes cambios) {
     std::string filas;  // of several pages
-    for (int i = 0; i < 60; ++i) filas += i % 2 == 0 ? "e2e4 e7e5 g1f3 b8c6 f1b5\n" : "d2d4 d7d5 c2c4\n";
+    for (int i = 0; i < 400; ++i) filas += i % 2 == 0 ? "e2e4 e7e5\n" : "d2d4\n";
     CrearLibro(TABLAS[0], {filas});
     std::fstream fichero("Book.db", std::ios::binary | std::ios::in | std::ios::out);
     while (!cambios.Resto.empty()) {
