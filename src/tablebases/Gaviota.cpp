@@ -54,8 +54,8 @@ static bool CabeEnMemoria(std::size_t octetos) {
 }
 
 // What the library lacks to be started, nullptr for nothing. It opens every table at "restart" and again at "init" and
-// never closes the first ones. Of a table that it failed to open, and of a cache without memory, it says that they are
-// well, and then crashes: in a probe, at the latest when it is shut down.
+// never closes the first ones, which is done for it when it is unloaded. Of a table that it failed to open, and of a
+// cache without memory, it says that they are well, and then crashes: in a probe, at the latest when it is shut down.
 static const char* RecursoQueFalta() {
     const RegistroGaviota& g      = tbprobe_Gaviota;
     const int              tablas = NumeroTablasGaviota(g.Ruta, g.Compresion);
@@ -119,6 +119,7 @@ void Cargar_gtbgaviota_dll() {
         Imprimir("info string Error: %s para la tabla de finales gaviota.\n", falta);
         return;
     }
+    AnotarDescriptores();
     IniciarBiblioteca();
     ImprimirEstado();
     g.Disponibilidad = static_cast<int>(gtb::tb_availability());
@@ -137,6 +138,7 @@ int Descargar_gtbgaviota_dll() {
         gtb::tbcache_done();
         gtb::tb_done();
         g.ListaRutas = gtb::tbpaths_done(g.ListaRutas);
+        CerrarDescriptoresNuevos();
     }
     if (LiberarBiblioteca(gtb_hmod) == 0) {
         Imprimir("info string Error: Liberar tabla de finales gaviota.\n");
