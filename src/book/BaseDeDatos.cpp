@@ -6,6 +6,7 @@
 #include <cassert>
 
 #include "book/LibroSql.h"
+#include "plataforma/Descriptores.h"
 
 constexpr char NOMBRE_LIBRO[]   = "file:Book.db";
 constexpr int  MODO_APERTURA    = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_URI;
@@ -51,7 +52,8 @@ static int AbrirFichero() {
     int codigo = SQLITE_CANTOPEN;
     for (int i = 0; i < NumeroRutas && codigo != SQLITE_OK; ++i) {
         sqlite3_close(LibroSql.Conexion);
-        codigo = sqlite3_open_v2(Rutas[i], &LibroSql.Conexion, MODO_LECTURA, nullptr);
+        LibroSql.Conexion = nullptr;
+        if (EsTuberia(Rutas[i]) == 0) codigo = sqlite3_open_v2(Rutas[i], &LibroSql.Conexion, MODO_LECTURA, nullptr);
     }
     return codigo;
 }

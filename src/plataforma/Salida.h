@@ -5,6 +5,9 @@
 
 constexpr int SALIDA_MAX = 8192;  // bytes of one call; what is longer is cut, its line end kept
 
+// Before the first line, and before anything else writes to a file.
+void PrepararSalida();
+
 // Prints one or more whole lines, with the format of printf.
 [[gnu::format(printf, 1, 2)]] void Imprimir(const char* formato, ...);
 

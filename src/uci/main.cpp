@@ -77,6 +77,7 @@ static int ResponderInformacion(int argc, char** argv) {
 }
 
 int main(int argc, char** argv) {
+    PrepararSalida();
     if (ResponderInformacion(argc, argv) != 0) return EXIT_SUCCESS;
     Argumentos argumentos{};
     argumentos.UciCompleto = UCI_COMPLETO_DE_SERIE;

@@ -2,9 +2,12 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
+#include <cstdio>
 #include <functional>
 #include <string>
 #include <thread>
@@ -39,9 +42,15 @@ TEST(Salida, EsperaAlLectorNoAlDiscoYTerminaSinNinguno) {
     escritor.join();
     EXPECT_EQ(leido == esperado, true);
 
-    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGPIPE, SIG_DFL);
+    std::signal(SIGXFSZ, SIG_DFL);
+    PrepararSalida();
     ConSalida(open("/dev/full", O_WRONLY), [] { Imprimir("uciok\n"); });
     EXPECT_EQ(SalidaPerdida(), 0) << "a full disk";
+    const rlimit sin_ficheros{0, RLIM_INFINITY};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &sin_ficheros), 0);
+    const int fichero = fileno(std::tmpfile());
+    EXPECT_EQ((write(fichero, "x", 1), errno), EFBIG);
     close(tubo[0]);
     ConSalida(tubo[1], [] { Imprimir("uciok\n"); });
     EXPECT_EQ(SalidaPerdida(), 1);
