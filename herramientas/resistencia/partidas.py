@@ -4,8 +4,8 @@ The rules of chess that judge each move are those of herramientas/analisis, whic
 """
 
 import collections
-import concurrent.futures
-import itertools
+import contextlib
+import multiprocessing
 import os
 import random
 import shutil
@@ -130,7 +130,9 @@ class Partida:
         return f"position {self.comienzo}" + (" moves " + " ".join(self.jugadas) if self.jugadas else "")
 
     def jugar(self, jugada):
-        self.derechos -= set(ENROQUES_DE.get(jugada[:2], ""))
+        ficha = self.posicion.casillas[ajedrez.NUMEROS[jugada[:2]]]
+        self.derechos -= {derecho for derecho in ENROQUES_DE.get(jugada[:2], "")
+                          if ficha in ("KR" if derecho.isupper() else "kr")}
         self.jugadas.append(jugada)
         self.posicion = self.posicion.jugar(jugada)
         self.vistas[self.posicion.epd()] += 1
@@ -229,9 +231,9 @@ def jugar_partida(motores, jugadores, ritmo, partida, cuenta, notas):
     return partida.resultado()
 
 
-def jugar_lote(semilla, emparejamiento, partidas):
-    """Plays so many games between two processes. Returns counts and notes."""
-    uno, otro, ritmo, final = emparejamiento
+def jugar_lote(lote):
+    """Plays a lot of games between two processes. Returns the pairing, counts and notes."""
+    semilla, (uno, otro, ritmo, final), partidas = lote
     azar, cuenta, notas, motores = random.Random(semilla), collections.Counter(), [], {}
     hablando = uno
     try:
@@ -273,20 +275,14 @@ def main():
     empezado, lotes = time.monotonic(), repartir(partidas)
     random.Random(SEMILLA).shuffle(lotes)
     por_pareja, total = collections.defaultdict(collections.Counter), collections.Counter()
-    with concurrent.futures.ProcessPoolExecutor(os.cpu_count()) as trabajadores:
-        hechos = [trabajadores.submit(jugar_lote, SEMILLA + i, *lote) for i, lote in enumerate(lotes)]
-        try:
-            for hecho, numero in zip(concurrent.futures.as_completed(hechos), itertools.count(1)):
-                nombre, cuenta, notas = hecho.result()
-                por_pareja[nombre] += cuenta
-                total += cuenta
-                for nota in notas:
-                    print(nota, flush=True)
-                if numero % 20 == 0:
-                    print(f"{total['games']} of {partidas} games", file=sys.stderr, flush=True)
-        except KeyboardInterrupt:
-            trabajadores.shutdown(wait=False, cancel_futures=True)
-            print(f"interrupted after {total['games']} games")
+    with multiprocessing.Pool() as trabajadores, contextlib.suppress(KeyboardInterrupt):
+        hechos = trabajadores.imap_unordered(jugar_lote, [(SEMILLA + i, *lote) for i, lote in enumerate(lotes)])
+        for numero, (nombre, cuenta, notas) in enumerate(hechos, 1):
+            por_pareja[nombre] += cuenta
+            total += cuenta
+            print(*notas, sep="\n", end="\n" if notas else "", flush=True)
+            if numero % 10 == 0:
+                print(f"{total['games']} of {partidas} games", file=sys.stderr, flush=True)
     for nombre, cuenta in sorted(por_pareja.items()):
         print(f"{nombre:52} {cuenta['games']:5} games +{cuenta['won']} ={cuenta['drawn']} -{cuenta['lost']}")
     print(f"{time.monotonic() - empezado:.0f} s; " + ", ".join(

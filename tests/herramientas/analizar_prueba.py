@@ -23,6 +23,8 @@ PERFT = (   # position, depth, published total
     (CUATRO, 3, 2812),
     ("r3k2r/Pppp1ppp/1b3nbN/nP6/BBP1P3/q4N2/Pp1P2PP/R2Q1RK1 w kq - 0 1", 2, 264),
     ("rnbq1k1r/pp1Pbppp/2p5/8/2B5/8/PPP1NnPP/RNBQK2R w KQ - 1 8", 2, 1486),
+    (ajedrez.INICIAL, 3, 8902),
+    ("r4rk1/1pp1qppp/p1np1n2/2b1p1B1/2B1P1b1/P1NP1N2/1PP1QPPP/R4RK1 w - - 0 10", 2, 2079),
 )
 SAN = (     # position, coordinates, PGN
     ("4k3/8/8/8/8/8/8/R3K2R w KQ - 0 1", "e1c1", "O-O-O"), ("5k2/8/8/8/8/8/8/4K2R w K - 0 1", "e1g1", "O-O+"),
