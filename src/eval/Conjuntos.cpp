@@ -46,10 +46,11 @@ static void EvaluarEstructura() {
 }
 
 template <int C>
-static void DelimitarZonaRey() {
+static void DelimitarZonas() {
     ConjuntosBando& propios = Conjuntos[C];
     const int       rey     = PosicionReyDe<C>();
     propios.Zona_Rey        = ATAQUES_REY[static_cast<std::size_t>(rey)] | Bit(rey);
+    propios.Libres          = ~(propios.Peones | propios.Rey | Conjuntos[RIVAL<C>].Ataque_Peones);
     propios.Zona_Exterior   = Avanzar<C>(propios.Zona_Rey) & ~propios.Zona_Rey & ~propios.Ataque_Peones;
     propios.Ataque_Caballos = propios.Ataque_Alfiles = propios.Ataque_Torres = propios.Ataque_Damas = 0;
     propios.Ataque_Rey                                                                              = 0;
@@ -63,6 +64,6 @@ void ReunirConjuntos() {
     EvaluarControlPeones<NEGRO>();
     EvaluarEstructura<BLANCO>();
     EvaluarEstructura<NEGRO>();
-    DelimitarZonaRey<BLANCO>();
-    DelimitarZonaRey<NEGRO>();
+    DelimitarZonas<BLANCO>();
+    DelimitarZonas<NEGRO>();
 }

@@ -37,6 +37,11 @@ struct ConjuntosBando {
     Conjunto Zona_Exterior;  // the three squares in front of that zone, if no pawn of the side guards them
     Conjunto Alcance_Peon;   // squares that the side's pawns attack now or after any advance
 
+    // The squares that count for the mobility of a knight, bishop or queen: not covered by an enemy pawn, and not
+    // blocked for good by an own pawn or the own king. A square of another own piece counts: the piece protects it and
+    // may change places.
+    Conjunto Libres;
+
     Conjunto Doblados;    // own pawns with an own pawn ahead on the file: all of a file but the most advanced
     Conjunto Abiertos;    // ... no enemy pawn ahead on the file; a doubled one only where the file has none at all
     Conjunto Pasados;     // ... open, and no enemy pawn ahead on the adjacent files

@@ -23,13 +23,6 @@ static constexpr RasgosPieza RASGOS_ALFIL   = {PESOS.PST_B_OP, PESOS.PST_B_EG, P
 static constexpr RasgosPieza RASGOS_DAMA    = {PESOS.PST_Q_OP, PESOS.PST_Q_EG, PESOS.BONUS_DAMA_MOVILIDAD,
                                                PESOS.TROPISMO_DAMA, PESOS.PESO_ZONA_DAMA};
 
-// The squares that count for a piece of colour C: not covered by an enemy pawn, and not blocked for good by an own
-// pawn or the own king. A square of another own piece counts: the piece protects it and may change places.
-template <int C>
-static Conjunto CasillasLibres() {
-    return ~(Conjuntos[C].Peones | Conjuntos[C].Rey | Conjuntos[RIVAL<C>].Ataque_Peones);
-}
-
 // What a piece of colour C that attacks the given squares adds to the attack on the king. A check counts its square
 // once more.
 template <int C>
@@ -45,7 +38,7 @@ static void AnotarAtaqueZona(Conjunto ataques, const int& peso) {
 // ataques_de(square) is the set a piece attacks from there. Returns the squares that they attack.
 template <int C, class AtaquesDe>
 static Conjunto SumarPiezas(Conjunto piezas, const RasgosPieza& rasgos, AtaquesDe ataques_de) {
-    const Conjunto libres   = CasillasLibres<C>();
+    const Conjunto libres   = Conjuntos[C].Libres;
     const auto*    cercania = TROPISMO_DISTANCIA[PosicionReyDe<RIVAL<C>>()];
     Cuenta         cuenta   = Conjuntos[C].Ataques;
     Conjunto       atacadas = 0;
