@@ -52,10 +52,11 @@ int HayBytes() {
     return esperan != 0 ? 1 : 0;
 }
 
-// Through the descriptor of the C library, which ends lines as this system does. It blocks, so a call that takes
-// nothing has failed.
+// There are no such signals here.
 void IgnorarSenalesDeEscritura() {}
 
+// Through the descriptor of the C library, which ends lines as this system does. It blocks, so a call that takes
+// nothing has failed.
 int EscribirBytes(const char* bytes, int numero) {
     while (numero > 0) {
         const int escritos = _write(SALIDA_ESTANDAR, bytes, static_cast<unsigned>(numero));
