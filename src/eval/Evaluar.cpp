@@ -10,6 +10,7 @@
 #include "eval/SeguridadRey.h"
 #include "eval/Terminos.h"
 #include "eval/finales/Dificiles.h"
+#include "eval/finales/Kbnk.h"
 #include "eval/finales/Kpk.h"
 #include "eval/finales/Kqkp.h"
 #include "eval/finales/Reconocidos.h"
@@ -124,4 +125,8 @@ void Iniciar_Asimetrico() {
 void Iniciar_Evaluacion() {
     IniciarKpk();
     IniciarKqkp();
+}
+
+void Preparar_Evaluacion() {
+    PrepararKbnk();
 }

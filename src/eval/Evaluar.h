@@ -23,3 +23,6 @@ void Iniciar_Asimetrico();
 
 // Solves the endings that are kept in tables. To be called once at start-up, before any evaluation.
 void Iniciar_Evaluacion();
+
+// Solves what takes too long for the start and for the clock of a search. Once is enough.
+void Preparar_Evaluacion();

@@ -8,6 +8,7 @@
 #include "board/Posicion.h"
 #include "book/Libro.h"
 #include "book/LibroSql.h"
+#include "eval/Evaluar.h"
 #include "plataforma/Entrada.h"
 #include "plataforma/Salida.h"
 #include "search/Transposicion.h"
@@ -39,6 +40,7 @@ static void ComandoIsReady(const char* /*resto*/) {
     ActualizarGaviota();
     CrearTransposicion(HashTotal());
     OcuparTransposicion();
+    Preparar_Evaluacion();
     Imprimir("readyok\n");
 }
 

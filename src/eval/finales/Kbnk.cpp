@@ -182,11 +182,14 @@ static int JugadasDelFuerte(int rey, int alfil, int caballo, int debil) {
     return numero == 0 ? KBNK_SIN_MATE : numero;
 }
 
-int KbnkJugadas(int rey, int alfil, int caballo, int reyDebil, bool mueveFuerte) {
+void PrepararKbnk() {
     static bool resuelto = false;
     if (!resuelto) Resolver();
     resuelto = true;
+}
 
+int KbnkJugadas(int rey, int alfil, int caballo, int reyDebil, bool mueveFuerte) {
+    PrepararKbnk();
     const int espejo = ColorCasilla(alfil) == ColorCasilla(0) ? 0 : 7;
     rey ^= espejo, alfil ^= espejo, caballo ^= espejo, reyDebil ^= espejo;
     if (!Contiene(Libres(reyDebil, rey, alfil), caballo)) return KBNK_SIN_MATE;
