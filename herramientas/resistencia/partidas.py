@@ -224,7 +224,7 @@ def jugar_partida(motores, jugadores, ritmo, partida, cuenta, notas):
                 reloj.explicar(limite, jugador.completo, len(partida.jugadas), gastados, motor.trabajo() - antes)
             cuenta[clase] += 1
             if clase not in (reloj.MAQUINA, reloj.DE_OTROS):
-                notas.append(f"{jugador.nombre}, {ritmo.nombre}: {clase}: {causa}")
+                notas.append(f"{jugador.nombre}, {ritmo.nombre}: {clase}: {causa}: {partida.orden()} | {orden}")
                 return "0-1" if turno == 0 else "1-0"
         bando.descontar(gastados)
         partida.jugar(jugada)

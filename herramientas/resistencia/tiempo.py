@@ -15,7 +15,7 @@ PARTIDA = 40                        # searches between two clearings of the tabl
 PRESUPUESTOS = (10, 20, 50, 100)    # milliseconds
 PACIENCIA = 60                      # seconds
 LIMPIEZAS = ("ucinewgame", "setoption name Clear Hash", "setoption name Hash value 32", "")
-OCUPADO = "while True: pass"
+OCUPADO = "import os\npadre = os.getppid()\nwhile os.getppid() == padre:\n    for _ in range(10 ** 6): pass"
 
 
 def posiciones(azar):
