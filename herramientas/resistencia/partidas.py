@@ -171,7 +171,7 @@ class Bando:
 
     def limite(self):
         if self.ritmo.reloj:
-            return reloj.Limite(None, int(self.reloj), self.ritmo.incremento, self.movimientos)
+            return reloj.Limite(None, max(1, int(self.reloj)), self.ritmo.incremento, self.movimientos)
         reserva = {False: reloj.RESERVA, True: reloj.MARGEN, None: 0}[self.jugador.completo]
         return reloj.Limite(self.ritmo.valor + reserva) if self.ritmo.palabra == "movetime" else None
 
