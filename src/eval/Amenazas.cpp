@@ -121,14 +121,14 @@ static Conjunto Amenazadas() {
             (ConUnoOMas(propios.Ataques) & ~ConUnoOMas(rival.Ataques)));
 }
 
-// What threats are worth because C is to move: it parries one of the enemy's, but no two, and may attack what is loose.
+// What threats are worth because C is to move: it parries one of the enemy's but not two, and may attack what is loose.
 template <int C>
 static void EvaluarTurno() {
     const ConjuntosBando& rival     = Conjuntos[RIVAL<C>];
-    const Conjunto        blancos   = rival.Caballos | rival.Alfiles | rival.Damas;
+    const Conjunto        presas    = rival.Caballos | rival.Alfiles | rival.Damas;
     const int             recibidas = Cuantas(Amenazadas<RIVAL<C>>());
     if (recibidas > 1) Sumar<C>(PESOS.PENALIZACION_OTRA_AMENAZA, 1 - recibidas);
-    Sumar<C>(PESOS.SUELTA_CON_TURNO, Cuantas(blancos & ~ConUnoOMas(rival.Ataques)));
+    Sumar<C>(PESOS.SUELTA_CON_TURNO, Cuantas(presas & ~ConUnoOMas(rival.Ataques)));
 }
 
 void EvaluarAmenazas() {

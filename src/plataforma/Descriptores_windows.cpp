@@ -10,6 +10,6 @@ int EsTuberia(const char* /*ruta*/) {
     return 0;
 }
 
-// A library takes its files with it when it goes.
+// What a library forgets is left to the system: there is room enough, and no list of files to go through.
 void AnotarDescriptores() {}
 void CerrarDescriptoresNuevos() {}
