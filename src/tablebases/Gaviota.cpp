@@ -53,12 +53,13 @@ static bool CabeEnMemoria(std::size_t octetos) {
     return memoria != nullptr;
 }
 
-// What the library lacks to be started, nullptr for nothing. It opens every table at "restart" and again at "init" and
-// never closes the first ones, which is done for it when it is unloaded. Of a table that it failed to open, and of a
-// cache without memory, it says that they are well, and then crashes: in a probe, at the latest when it is shut down.
+// What keeps the library from being started, nullptr for nothing. It opens every table at "restart" and again at "init"
+// and never closes the first ones, which is done for it when it is unloaded. Of a table that it failed to open, and of
+// a cache without memory, it says that they are well, and then crashes: in a probe, at the latest when it is shut down.
 static const char* RecursoQueFalta() {
     const RegistroGaviota& g      = tbprobe_Gaviota;
     const int              tablas = NumeroTablasGaviota(g.Ruta, g.Compresion);
+    if (tablas < 0) return "Fichero ilegible";
     if (HayDescriptores(2 * tablas + DESCRIPTORES_MOTOR) == 0) return "Demasiados ficheros abiertos";
     const std::size_t cache_octetos = static_cast<std::size_t>(g.Cache) << 20;
     return CabeEnMemoria(cache_octetos + cache_octetos / 64 + MEMORIA_MINIMA) ? nullptr : "Memoria insuficiente";

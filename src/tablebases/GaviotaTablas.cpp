@@ -7,6 +7,7 @@
 #include <cstring>
 #include <initializer_list>
 
+#include "plataforma/Descriptores.h"
 #include "plataforma/Salida.h"
 
 // A compressed table starts with ten words of 32 bits, low byte first. Right behind them stands the index: where
@@ -90,16 +91,27 @@ static bool NoEsta(int error) {
     return error == ENOENT || error == ENOTDIR || error == ENAMETOOLONG;
 }
 
+struct BusquedaTablas {
+    const char* Rutas;
+    int         Compresion;
+    int         Numero;        // tables that are there
+    int         HombresSanos;  // found so far
+    bool        Comprobar;     // false only counts
+    bool        Tuberia;       // some table is a pipe
+};
+
 // Opens the file in the first directory that has it, as the library does. False when it is in none; *tabla is nullptr
 // when it is there and cannot be opened.
-static bool AbrirTabla(const char* rutas, const char* nombre, std::FILE** tabla) {
+static bool AbrirTabla(BusquedaTablas& b, const char* nombre, std::FILE** tabla) {
     bool esta = false;
     *tabla    = nullptr;
-    for (const char* ruta = rutas; *ruta != '\0' && *tabla == nullptr;) {
+    for (const char* ruta = b.Rutas; *ruta != '\0' && *tabla == nullptr;) {
         const int letras = static_cast<int>(std::strcspn(ruta, ";"));
         char      fichero[RUTA_MAX + 32];
         std::snprintf(fichero, sizeof fichero, "%.*s/%s", letras, ruta, nombre);
-        if (letras > 0) {
+        if (letras > 0 && EsTuberia(fichero) != 0) {
+            esta = b.Tuberia = true;
+        } else if (letras > 0) {
             *tabla = std::fopen(fichero, "rb");
             esta   = esta || *tabla != nullptr || !NoEsta(errno);
         }
@@ -114,14 +126,6 @@ static bool EsTablaSana(int compresion, NombreTabla piezas, std::FILE* tabla) {
     return compresion < COMPRESION_MIN || EsIndiceSano(tabla, NumeroBloques(piezas));
 }
 
-struct BusquedaTablas {
-    const char* Rutas;
-    int         Compresion;
-    int         Numero;        // tables that are there
-    int         HombresSanos;  // found so far
-    bool        Comprobar;     // false only counts
-};
-
 static void VisitarTabla(BusquedaTablas& b, NombreTabla piezas) {
     const int hombres    = static_cast<int>(piezas.size());
     char      sufijo[16] = "";
@@ -129,7 +133,7 @@ static void VisitarTabla(BusquedaTablas& b, NombreTabla piezas) {
     if (b.Compresion >= COMPRESION_MIN) std::snprintf(sufijo, sizeof sufijo, ".cp%d", b.Compresion);
     std::snprintf(nombre, sizeof nombre, "%.*s.gtb%s", hombres, piezas.begin(), sufijo);
     std::FILE* tabla;
-    if (!AbrirTabla(b.Rutas, nombre, &tabla)) return;
+    if (!AbrirTabla(b, nombre, &tabla)) return;
     ++b.Numero;
     if (b.Comprobar && hombres <= b.HombresSanos && !EsTablaSana(b.Compresion, piezas, tabla)) {
         Imprimir("info string Error: Tabla de finales gaviota ilegible: %s\n", nombre);
@@ -140,7 +144,7 @@ static void VisitarTabla(BusquedaTablas& b, NombreTabla piezas) {
 
 // Tables with one, two and three pieces besides the kings; the side with more or higher pieces is named first.
 static BusquedaTablas VisitarTablas(const char* rutas, int compresion, bool comprobar) {
-    BusquedaTablas b{rutas, compresion, 0, HOMBRES_TABLA_MAX, comprobar};
+    BusquedaTablas b{rutas, compresion, 0, HOMBRES_TABLA_MAX, comprobar, false};
     for (const char* x = LETRAS_PIEZAS; *x != '\0'; ++x) {
         VisitarTabla(b, {'k', *x, 'k'});
         for (const char* y = LETRAS_PIEZAS; y <= x; ++y) {
@@ -156,7 +160,8 @@ static BusquedaTablas VisitarTablas(const char* rutas, int compresion, bool comp
 }
 
 int NumeroTablasGaviota(const char* rutas, int compresion) {
-    return VisitarTablas(rutas, compresion, false).Numero;
+    const BusquedaTablas b = VisitarTablas(rutas, compresion, false);
+    return b.Tuberia ? -1 : b.Numero;
 }
 
 int ComprobarTablasGaviota(const char* rutas, int compresion) {

@@ -8,7 +8,8 @@ constexpr int COMPRESION_MAX    = 4;    // the library has no decoder for higher
 // In both, rutas: directories separated by semicolons, up to RUTA_MAX characters; compresion: the scheme, which is part
 // of the file names.
 
-// Number of table files that are there, readable or not: the library opens as many.
+// Number of table files that are there, readable or not: the library opens as many. -1 when one of them is a pipe, at
+// which the library would wait without end.
 int NumeroTablasGaviota(const char* rutas, int compresion);
 
 // Looks at the head of every table file that the library would read. The library itself trusts the block index of a

@@ -1,4 +1,5 @@
 // The real library and its tables: what is printed at loading, odd folders and damaged tables.
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cstring>
@@ -116,6 +117,11 @@ TEST_F(Real, TablasDanadas) {
         EXPECT_TRUE(Recargar("/nowhere/;" + ruta.string()).ends_with(TRES + ILEGIBLE + "kqk.gtb.cp4\n"));
         EXPECT_EQ(Sondear(KQK), std::nullopt);
     }
+    const fs::path tuberia = CopiarTablas("d") / "kqk.gtb.cp4";
+    fs::remove(tuberia);
+    ASSERT_EQ(mkfifo(tuberia.c_str(), 0600), 0);
+    EXPECT_EQ(Recargar(tuberia.parent_path()),
+              "info string Error: Fichero ilegible para la tabla de finales gaviota.\n");
 }
 
 // Every position of king and pawn against king, the pawn White's and Black's: squares, side to move and result, and
