@@ -210,15 +210,15 @@ struct RegistroPesos {
     Par ASEDIO_A_PIEZA = { 25,  59};  // more attackers than defenders
     Par AVANCE_A_PIEZA = { 17,  16};  // a pawn step that nothing punishes would attack the piece
 
-    Par TORRE_A_MENOR     = { 29,  25};  // that no pawn guards, as in the next two
-    Par MENOR_A_MENOR     = { 16,  24};
-    Par PIEZA_A_PEON      = {  4,  17};  // attacked by a knight, bishop or rook
-    Par REY_A_PEON        = { 79,  -7};  // that nothing guards
-    Par REY_A_PIEZA       = { 51,  -1};
+    Par TORRE_A_MENOR             = { 29,  25};  // that no pawn guards, as in the next two
+    Par MENOR_A_MENOR             = { 16,  24};
+    Par PIEZA_A_PEON              = {  4,  17};  // attacked by a knight, bishop or rook
+    Par REY_A_PEON                = { 79,  -7};  // that nothing guards
+    Par REY_A_PIEZA               = { 51,  -1};
     Par PENALIZACION_PIEZA_SUELTA = {  5,   1};  // an own piece that nothing guards, attacked or not
-    Par CLAVADA           = {  1,  42};  // an enemy piece between its king and a line piece
-    Par DESCUBIERTA       = {110,  41};  // an own piece there: its move gives check
-    Par DAMA_TRAS_PIEZA   = { 39,  12};  // the enemy queen behind another piece on the line of a rook or bishop
+    Par CLAVADA                   = {  1,  42};  // an enemy piece between its king and a line piece
+    Par DESCUBIERTA               = {110,  41};  // an own piece there: its move gives check
+    Par DAMA_TRAS_PIEZA           = { 39,  12};  // the enemy queen behind another piece on the line of a rook or bishop
 
     // ... and what is added to them for the side to move.
     Par PENALIZACION_OTRA_AMENAZA = { 61,  55};  // each own piece but one that the enemy would win something by taking
@@ -228,18 +228,18 @@ struct RegistroPesos {
     Par DESCUBIERTA_CON_TURNO     = { 98,  33};
 
     // ---- Support of passed pawns, by rank as their side counts it, from its back rank on.
-    Par PASADO_BASE[FILAS]       = {{  0,   0}, {-15,  30}, {-25,   3}, {-91,  20}, {-90,  -7}, { 10, -22}, { 14,  22}, {  0,   0}};
-    Par PASADO_REY_PROPIO[FILAS] = {{  0,   0}, {  7,  -2}, { 10, -11}, { 11, -13}, {  8, -15}, {-16, -14}, { -9, -16}, {  0,   0}};  // a king move to the square before it
-    Par PASADO_REY_RIVAL[FILAS]  = {{  0,   0}, { -5,  -6}, {-12,   7}, {  8,   4}, {  3,  15}, { 10,  19}, { 18,  17}, {  0,   0}};
-    Par PASADO_LIBRE[FILAS]      = {{  0,   0}, {-15,   5}, { 12,  -4}, {-16,   6}, { -7,  16}, {  0,  24}, {  5,  49}, {  0,   0}};  // nothing stands before it
-    Par PASADO_SEGURO[FILAS]     = {{  0,   0}, { -2,  13}, { -9,  12}, {-24,  13}, {  5,  19}, { 30,  27}, { -9,  30}, {  0,   0}};  // no enemy attacks the square before it
-    Par PASADO_CAMINO[FILAS]     = {{  0,   0}, {-20,  17}, {-20,  18}, {-98,  41}, {-35,  43}, {-17,  53}, { 44,  68}, {  0,   0}};  // ... nor stands on or attacks its whole way
-    Par PASADO_APOYADO[FILAS]    = {{ 0,  0}, { 6, -2}, {10, 13}, {-4, 19}, {16, 14}, {37, 15}, {84, 99}, { 0,  0}};  // the square before it is guarded
-    Par PASADO_UNIDO[FILAS]      = {{  0,   0}, {-21,  -4}, {-18,  11}, {  4,   6}, {-14,  34}, { 35,  40}, {  3,  27}, {  0,   0}};  // another one beside it or a rank apart
-    Par PASADO_TURNO[FILAS]        = {{  0,   0}, {  9,  -3}, {  8,   4}, {  9,   7}, {11,   9}, { 14,  30}, {  3,   4}, {  0,   0}};  // nothing stands before it, its side is to move
-    Par PASADO_TURNO_CAMINO[FILAS] = {{  0,   0}, {  1,  -1}, {-19,  -3}, {-17,   4}, {-9,  15}, {  5,  26}, {  5,  -8}, {  0,   0}};  // ... and its whole way is safe
-    Par PASADO_TORRE_PROPIA      = {  0,  37};  // behind it
-    Par PASADO_TORRE_RIVAL       = {  3, -78};
+    Par PASADO_BASE[FILAS]         = {{  0,   0}, {-15,  30}, {-25,   3}, {-91,  20}, {-90,  -7}, { 10, -22}, { 14,  22}, {  0,   0}};
+    Par PASADO_REY_PROPIO[FILAS]   = {{  0,   0}, {  7,  -2}, { 10, -11}, { 11, -13}, {  8, -15}, {-16, -14}, { -9, -16}, {  0,   0}};  // a king move to the square before it
+    Par PASADO_REY_RIVAL[FILAS]    = {{  0,   0}, { -5,  -6}, {-12,   7}, {  8,   4}, {  3,  15}, { 10,  19}, { 18,  17}, {  0,   0}};
+    Par PASADO_LIBRE[FILAS]        = {{  0,   0}, {-15,   5}, { 12,  -4}, {-16,   6}, { -7,  16}, {  0,  24}, {  5,  49}, {  0,   0}};  // nothing stands before it
+    Par PASADO_SEGURO[FILAS]       = {{  0,   0}, { -2,  13}, { -9,  12}, {-24,  13}, {  5,  19}, { 30,  27}, { -9,  30}, {  0,   0}};  // no enemy attacks the square before it
+    Par PASADO_CAMINO[FILAS]       = {{  0,   0}, {-20,  17}, {-20,  18}, {-98,  41}, {-35,  43}, {-17,  53}, { 44,  68}, {  0,   0}};  // ... nor stands on or attacks its whole way
+    Par PASADO_APOYADO[FILAS]      = {{ 0,  0}, { 6, -2}, {10, 13}, {-4, 19}, {16, 14}, {37, 15}, {84, 99}, { 0,  0}};  // the square before it is guarded
+    Par PASADO_UNIDO[FILAS]        = {{  0,   0}, {-21,  -4}, {-18,  11}, {  4,   6}, {-14,  34}, { 35,  40}, {  3,  27}, {  0,   0}};  // another one beside it or a rank apart
+    Par PASADO_TURNO[FILAS]        = {{  0,   0}, {  9,  -3}, {  8,   4}, {  9,   7}, { 11,   9}, { 14,  30}, {  3,   4}, {  0,   0}};  // nothing stands before it, its side is to move
+    Par PASADO_TURNO_CAMINO[FILAS] = {{  0,   0}, {  1,  -1}, {-19,  -3}, {-17,   4}, { -9,  15}, {  5,  26}, {  5,  -8}, {  0,   0}};  // ... and its whole way is safe
+    Par PASADO_TORRE_PROPIA        = {  0,  37};  // behind it
+    Par PASADO_TORRE_RIVAL         = {  3, -78};
 
     // ---- King shelter, opening. Ranks as the king's side counts them; the place of the eighth, where no pawn of a
     // real game stands, holds the value of "no pawn from the king's rank on".
@@ -298,30 +298,30 @@ struct RegistroPesos {
         { 35, -36}, { 61, -22}, { 67, -31}, { 65, -30}, { 17, -20}, { -7,   7}, {  1,  14}};  // 7..13
 
     // ---- Danger of the enemy king, in units of Peligro, whose square counts (see PuntosPeligro).
-    int PELIGRO_JAQUE_CABALLO    = 14;  // the piece may check without being taken
+    int PELIGRO_JAQUE_CABALLO    = 14;   // the piece may check without being taken
     int PELIGRO_JAQUE_ALFIL      = 15;
     int PELIGRO_JAQUE_TORRE      = 55;
     int PELIGRO_JAQUE_DAMA       = 63;
-    int PELIGRO_JAQUE_RIESGO     = 38;  // each square of another check by a knight, bishop or rook
-    int PELIGRO_ZONA_PEON        = 43;  // each square of the king zone that a pawn attacks
-    int PELIGRO_ZONA_CABALLO     = 30;  // ... knights, and so on
+    int PELIGRO_JAQUE_RIESGO     = 38;   // each square of another check by a knight, bishop or rook
+    int PELIGRO_ZONA_PEON        = 43;   // each square of the king zone that a pawn attacks
+    int PELIGRO_ZONA_CABALLO     = 30;   // ... knights, and so on
     int PELIGRO_ZONA_ALFIL       = 36;
     int PELIGRO_ZONA_TORRE       = 11;
     int PELIGRO_ZONA_DAMA        = 20;
-    int PELIGRO_ZONA_DEBIL       = 4;  // each attacked square of it that only the king guards
-    int PELIGRO_ATACANTE         = -2;  // each piece that attacks the zone
+    int PELIGRO_ZONA_DEBIL       = 4;    // each attacked square of it that only the king guards
+    int PELIGRO_ATACANTE         = -2;   // each piece that attacks the zone
     int PELIGRO_CLAVADA          = 76;
-    int PELIGRO_FLANCO_ATACADO   = 12;  // each attacked square of the king's flank, on his half of the board
-    int PELIGRO_FLANCO_DOS_VECES = 12;  // ... attacked twice
-    int PELIGRO_FLANCO_SUYO      = -5;  // ... that his own side attacks
-    int PELIGRO_EXPUESTO         = 0;  // each square from which a queen would see him
-    int PELIGRO_PEON_SUYO        = -6;    // each own pawn beside or in front of him
+    int PELIGRO_FLANCO_ATACADO   = 12;   // each attacked square of the king's flank, on his half of the board
+    int PELIGRO_FLANCO_DOS_VECES = 12;   // ... attacked twice
+    int PELIGRO_FLANCO_SUYO      = -5;   // ... that his own side attacks
+    int PELIGRO_EXPUESTO         = 0;    // each square from which a queen would see him
+    int PELIGRO_PEON_SUYO        = -6;   // each own pawn beside or in front of him
     int PELIGRO_CABALLO_SUYO     = -27;  // an own knight guards his zone
     int PELIGRO_ALFIL_SUYO       = -23;
     int PELIGRO_TURNO            = 67;   // the attacker is to move
     int PELIGRO_TURNO_JAQUE      = 36;   // ... for each kind of piece with a safe check
     int PELIGRO_TURNO_ATACANTE   = -12;  // ... for each piece that attacks the zone
-    int PELIGRO_CON_DAMA         = 45;  // to begin with, by whether the attacker has a queen
+    int PELIGRO_CON_DAMA         = 45;   // to begin with, by whether the attacker has a queen
     int PELIGRO_SIN_DAMA         = -47;
 
     // ---- Endings recognised by their material: percentage of the normal score. Never 0, which would make a dead draw
