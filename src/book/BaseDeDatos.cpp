@@ -4,11 +4,14 @@
 
 #include <algorithm>
 #include <cassert>
+#include <cstdio>
 
 #include "book/LibroSql.h"
 #include "plataforma/Descriptores.h"
 
 constexpr char NOMBRE_LIBRO[]   = "file:Book.db";
+constexpr char DIARIO_LIBRO[]   = "Book.db-journal";
+constexpr int  RUTA_DIARIO_MAX  = 8192;  // bytes; longer than any path that the system opens
 constexpr int  MODO_APERTURA    = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_URI;
 constexpr int  MODO_LECTURA     = SQLITE_OPEN_READONLY;
 constexpr char CONSULTA_TOTAL[] = "SELECT COUNT(Partida) FROM Book;";
@@ -46,14 +49,22 @@ void FijarRutasLibro(const char* const* rutas, int numero) {
     NumeroRutas = numero;
 }
 
+// SQLite opens the book and the journal that it finds beside it, and at a pipe it would wait for a writer without end.
+static bool HariaEsperar(const char* ruta) {
+    char diario[RUTA_DIARIO_MAX];
+    std::snprintf(diario, sizeof diario, "%s-journal", ruta);
+    return EsTuberia(ruta) != 0 || EsTuberia(diario) != 0;
+}
+
 // A handle is left also by an attempt that failed.
 static int AbrirFichero() {
+    if (NumeroRutas == 0 && EsTuberia(DIARIO_LIBRO) != 0) return SQLITE_CANTOPEN;
     if (NumeroRutas == 0) return sqlite3_open_v2(NOMBRE_LIBRO, &LibroSql.Conexion, MODO_APERTURA, nullptr);
     int codigo = SQLITE_CANTOPEN;
     for (int i = 0; i < NumeroRutas && codigo != SQLITE_OK; ++i) {
         sqlite3_close(LibroSql.Conexion);
         LibroSql.Conexion = nullptr;
-        if (EsTuberia(Rutas[i]) == 0) codigo = sqlite3_open_v2(Rutas[i], &LibroSql.Conexion, MODO_LECTURA, nullptr);
+        if (!HariaEsperar(Rutas[i])) codigo = sqlite3_open_v2(Rutas[i], &LibroSql.Conexion, MODO_LECTURA, nullptr);
     }
     return codigo;
 }

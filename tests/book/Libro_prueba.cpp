@@ -1,6 +1,7 @@
 #include "book/Libro.h"
 
 #include <sqlite3.h>
+#include <sys/stat.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -283,7 +284,7 @@ TEST_F(Libro, FilasSinFin) {
         ProbarFichero(error, error + "Apertura incorrecta en: d2d4 d7d5\n", posicion);
 }
 
-TEST_F(Libro, NoEsperaPorUnLibroBloqueado) {
+TEST_F(Libro, NoEsperaPorUnLibroBloqueadoNiPorUnaTuberia) {
     EscribirLibro({"'e2e4 e7e5'"});
     sqlite3* otro = nullptr;
     ASSERT_EQ(sqlite3_open("Book.db", &otro), SQLITE_OK);
@@ -292,6 +293,11 @@ TEST_F(Libro, NoEsperaPorUnLibroBloqueado) {
     EjecutarSql(otro, "ROLLBACK");
     sqlite3_close(otro);
     EXPECT_EQ(Capturar(VerificarLibroApertura), CORRECTO);
+    ASSERT_EQ(mkfifo("Book.db-journal", 0600), 0);
+    ProbarFichero(CERRADO, CERRADO);
+    const char* const ruta = "Book.db";
+    FijarRutasLibro(&ruta, 1);
+    ProbarFichero(CERRADO, CERRADO);
 }
 
 TEST_F(Libro, RutasPropiasNiSeCreanNiSeEscriben) {
