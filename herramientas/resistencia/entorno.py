@@ -358,6 +358,10 @@ def diario_ajeno(_todo):
     con_libro(lambda ruta: escribir(os.urandom(4096))(ruta + "-wal"))
 
 
+def diario_tuberia(_todo):
+    con_libro(lambda ruta: os.mkfifo(ruta + "-journal"))
+
+
 def sistema_de_solo_lectura(_todo):
     """Needs the right to mount."""
     prueba = subprocess.run(["unshare", "-m", "true"], stderr=subprocess.DEVNULL, check=False)
@@ -372,8 +376,6 @@ def sistema_de_solo_lectura(_todo):
 
 class Saltado(Exception):
     """The row cannot be tried here."""
-
-
 
 
 FILAS = (   # surroundings, what is expected, procedure
@@ -405,6 +407,7 @@ FILAS = (   # surroundings, what is expected, procedure
     ("book in a read-only folder", "plays from it", carpeta_de_solo_lectura),
     ("book on a read-only file system", "plays from it", sistema_de_solo_lectura),
     ("journals left by a dead writer", "answers", diario_ajeno),
+    ("journal of the book a pipe", "answers", diario_tuberia),
 )
 
 
@@ -412,6 +415,9 @@ def main():
     todo = sys.argv[1:] == ["todo"]
     cuenta = {"passed": 0, "failed": 0, "skipped": 0}
     os.chdir(RAIZ)
+    for senal in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
+        if signal.getsignal(senal) == signal.SIG_IGN:   # as nohup leaves it, and the engines would inherit
+            signal.signal(senal, signal.SIG_DFL)
     for nombre, esperado, fila in FILAS:
         empezado, resultado, causa = time.monotonic(), "passed", ""
         try:
