@@ -167,15 +167,19 @@ static void EvaluarAtaque(const Cerco& cerco) {
     SumarAtaque<C>(PESOS.PESO_ZONA_DEBIL, Cuantas(cerco.Debiles));
 }
 
+// 1 when one of these checks costs nothing.
+static int HayJaqueSeguro(const Cerco& cerco, Conjunto jaques) {
+    return (jaques & cerco.Seguras) != 0 ? 1 : 0;
+}
+
 template <int C>
 static void EvaluarJaques(const Cerco& cerco) {
-    const auto     hay        = [&cerco](Conjunto jaques) { return (jaques & cerco.Seguras) != 0 ? 1 : 0; };
     const Conjunto menores    = cerco.JaquesCaballo | cerco.JaquesAlfil | cerco.JaquesTorre;
     const Conjunto arriesgado = menores & ~Conjuntos[C].Todas & ~cerco.Seguras;
-    Presionar<C>(PESOS.JAQUE_SEGURO_CABALLO, PESOS.PELIGRO_JAQUE_CABALLO, hay(cerco.JaquesCaballo));
-    Presionar<C>(PESOS.JAQUE_SEGURO_ALFIL, PESOS.PELIGRO_JAQUE_ALFIL, hay(cerco.JaquesAlfil));
-    Presionar<C>(PESOS.JAQUE_SEGURO_TORRE, PESOS.PELIGRO_JAQUE_TORRE, hay(cerco.JaquesTorre));
-    Presionar<C>(PESOS.JAQUE_SEGURO_DAMA, PESOS.PELIGRO_JAQUE_DAMA, hay(cerco.JaquesDama));
+    Presionar<C>(PESOS.JAQUE_SEGURO_CABALLO, PESOS.PELIGRO_JAQUE_CABALLO, HayJaqueSeguro(cerco, cerco.JaquesCaballo));
+    Presionar<C>(PESOS.JAQUE_SEGURO_ALFIL, PESOS.PELIGRO_JAQUE_ALFIL, HayJaqueSeguro(cerco, cerco.JaquesAlfil));
+    Presionar<C>(PESOS.JAQUE_SEGURO_TORRE, PESOS.PELIGRO_JAQUE_TORRE, HayJaqueSeguro(cerco, cerco.JaquesTorre));
+    Presionar<C>(PESOS.JAQUE_SEGURO_DAMA, PESOS.PELIGRO_JAQUE_DAMA, HayJaqueSeguro(cerco, cerco.JaquesDama));
     Presionar<C>(PESOS.JAQUE_CON_RIESGO, PESOS.PELIGRO_JAQUE_RIESGO, Cuantas(arriesgado));
 }
 
@@ -183,10 +187,10 @@ static void EvaluarJaques(const Cerco& cerco) {
 template <int C>
 static void EvaluarTurno(const Cerco& cerco) {
     if (!TieneElTurno<C>()) return;
-    const auto hay = [&cerco](Conjunto jaques) { return (jaques & cerco.Seguras) != 0 ? 1 : 0; };
     SumarPeligro<C>(PESOS.PELIGRO_TURNO);
     SumarPeligro<C>(PESOS.PELIGRO_TURNO_JAQUE,
-                    hay(cerco.JaquesCaballo) + hay(cerco.JaquesAlfil) + hay(cerco.JaquesTorre) + hay(cerco.JaquesDama));
+                    HayJaqueSeguro(cerco, cerco.JaquesCaballo) + HayJaqueSeguro(cerco, cerco.JaquesAlfil) +
+                        HayJaqueSeguro(cerco, cerco.JaquesTorre) + HayJaqueSeguro(cerco, cerco.JaquesDama));
     SumarPeligro<C>(PESOS.PELIGRO_TURNO_ATACANTE, BandoDe<C>().Ataque_Numero);
 }
 
