@@ -1,10 +1,11 @@
-"""analizar with a stand-in engine. Argument: the tool."""
+"""analizar with a stand-in engine, and with ours. Arguments: the tool, our engine."""
 import csv
 import json
 import os
 import pathlib
 import re
 import shlex
+import shutil
 import signal
 import subprocess
 import sys
@@ -16,6 +17,7 @@ ANALIZAR = pathlib.Path(sys.argv[1]).resolve()
 sys.path.insert(0, str(ANALIZAR.with_name("analisis")))
 import ajedrez      # noqa: E402  pylint: disable=wrong-import-position
 
+TAMREK = sys.argv[2]
 MOTOR = pathlib.Path(__file__).resolve().with_name("motor_de_prueba.py")
 CUATRO = "8/2p5/3p4/KP5r/1R3p1k/8/4P1P1/8 w - - 0 1"
 PERFT = (   # position, depth, published total
@@ -62,6 +64,10 @@ PGN = """[White "A \\"x\\""]
 ANOTADA = ("1. e4 { [%eval 0.30] } { first } 1... e5 { [%eval 0.30] } (1... c5 {open} 2. Nf3 (2. c3)) 2. Qh5 $5 "
            "{ [%eval 0.30] } 2... Nc6 { [%eval 0.30] } { a rest } 3. Bc4 $6 { [%eval 0.30] } 3... Nf6 $4 "
            "{ [%eval 9.00] } (3... a6) 4. Qxf7# 1-0")
+LIMITES = (     # options, exit status, depth and nodes at most
+    (["-n3000"], 0, 64, 3500), (["-d3", "-t3600000"], 0, 3, 10**6), (["-d60", "-n3000"], 0, 60, 3500),
+    (["-d3", "-e", TAMREK], 0, 3, 10**6), (["-n3000", "-e", TAMREK], 1, 0, 0), (["-d3", "-t300", "-e", TAMREK], 1, 0, 0)
+)
 
 
 class Reglas(unittest.TestCase):
@@ -155,6 +161,21 @@ class Analizar(unittest.TestCase):
         self.escribir("hang", CUATRO)
         self.analizar("one.fen", "-o", "h", "--timeout", "2")
         self.assertEqual(self.filas("h")[0]["error"], "no bestmove within 2 s, twice")
+
+    def test_nuestro_motor_cumple_cada_limite(self):
+        self.escribir("one.fen", CUATRO)
+        shutil.copytree(ANALIZAR.parent, self.carpeta / "herramientas")
+        programa = self.carpeta / "build" / "release" / "tamrek"
+        programa.parent.mkdir(parents=True)
+        programa.symlink_to(TAMREK)
+        for numero, (opciones, codigo, hondo, nodos) in enumerate(LIMITES):
+            with self.subTest(opciones):
+                orden = [sys.executable, "herramientas/analizar", "one.fen", "--timeout=20", "-o", str(numero)]
+                fin = subprocess.run(orden + opciones, cwd=self.carpeta, capture_output=True, text=True, check=False)
+                self.assertEqual(fin.returncode, codigo, fin.stderr)
+                for fila in self.filas(str(numero)) if codigo == 0 else ():
+                    self.assertLessEqual(int(fila["depth"]), hondo)
+                    self.assertLessEqual(int(fila["nodes"]), nodos)
 
     def test_interrumpido_sigue_donde_estaba(self):
         fens = [f"3q3k/8/8/8/8/8/8/3R3K w - - {numero} 1" for numero in range(60)]
