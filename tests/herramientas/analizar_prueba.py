@@ -183,14 +183,15 @@ class Analizar(unittest.TestCase):
         ordenes = {"whole": self.analizar("list.fen", "-o", "whole")}
         self.assertEqual(ordenes["whole"].returncode, 0, ordenes["whole"].stderr)
         (self.carpeta / "searches").unlink()
-        for numero, senal in ((12, signal.SIGKILL), (28, signal.SIGINT), (44, signal.SIGTERM)):
-            with subprocess.Popen(self.orden("list.fen", "-o", "parts", "--chunk", "3"), cwd=self.carpeta,
+        for numero, senal, codigo, antes in ((12, signal.SIGKILL, -9, []), (28, signal.SIGINT, 130, []),
+                                             (44, signal.SIGTERM, 130, []), (50, signal.SIGHUP, 0, ["nohup"])):
+            with subprocess.Popen(antes + self.orden("list.fen", "-o", "parts", "--chunk", "3"), cwd=self.carpeta,
                                   stderr=subprocess.DEVNULL) as proceso:
                 diario = self.carpeta / "parts" / "journal.jsonl"
                 while proceso.poll() is None and (not diario.exists() or diario.read_bytes().count(b"\n") < numero):
                     time.sleep(0.01)
                 proceso.send_signal(senal)
-            self.assertEqual(proceso.returncode, -signal.SIGKILL if senal == signal.SIGKILL else 130)
+            self.assertEqual(proceso.returncode, codigo)
             with open(diario, "ab") as fichero:
                 fichero.write(b'{"fen": "cut')
         fin = self.analizar("list.fen", "-o", "parts")
