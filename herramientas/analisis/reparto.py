@@ -20,6 +20,7 @@ TANDA_MAX = 64          # positions of one job; an engine starts for each job
 TANDAS_POR_PUESTO = 8   # as many jobs for each core, so that none is left with much when the others have ended
 SEGURO = 1              # seconds of results that a power cut may cost
 ANCHO = 30              # characters of the progress bar
+SIN_EFECTO = {"seconds"}   # settings that a later run may change: no result depends on them
 
 
 class Error(Exception):
@@ -46,10 +47,13 @@ class Diario:
             raise Error(f"{nombre}: damaged; move it away to begin anew") from None
         if not lineas:
             self.apuntar(ajustes)
-        elif lineas[0] != ajustes:
-            otros = ", ".join(f"{clave} {lineas[0].get(clave)}" for clave in ajustes
-                              if lineas[0].get(clave) != ajustes[clave])
-            raise Error(f"{nombre}: made with other settings ({otros}); choose another folder with -o, or use --fresh")
+        else:
+            claves = sorted((lineas[0].keys() | ajustes.keys()) - SIN_EFECTO)
+            otros = ", ".join(f"{clave} {lineas[0].get(clave)}" for clave in claves
+                              if lineas[0].get(clave) != ajustes.get(clave))
+            if otros:
+                raise Error(f"{nombre}: made with other settings ({otros}); choose another folder with -o, "
+                            "or use --fresh")
         self.resultados = {linea["fen"]: linea for linea in lineas[1:]
                            if not (repetir_fallos and "error" in linea)}
 

@@ -153,7 +153,7 @@ class Analizar(unittest.TestCase):
         antes = self.leer("searches")
         self.assertEqual(self.analizar("list.fen", "-o", "f").returncode, 3)
         self.assertEqual(self.leer("searches"), antes)
-        self.analizar("list.fen", "-o", "f", "--retry")
+        self.analizar("list.fen", "-o", "f", "--retry", "--timeout", "99")    # more patience too
         self.assertEqual([fila["error"] for fila in self.filas("f")], ["", "", *errores[2:]])
 
     def test_un_motor_que_calla(self):
