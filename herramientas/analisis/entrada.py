@@ -9,10 +9,12 @@ import gzip
 import lzma
 import re
 import sys
+import zlib
 
 import ajedrez
 
 ABRIR = {".gz": gzip.open, ".xz": lzma.open, ".bz2": bz2.open}
+FALLOS = (OSError, EOFError, lzma.LZMAError, zlib.error)    # of files that are missing, cut or damaged
 SIGNOS = {"!": "$1", "?": "$2", "!!": "$3", "??": "$4", "!?": "$5", "?!": "$6"}
 OPERACION = re.compile(r'\s*([A-Za-z_]\w*)((?:\s+(?:"[^"]*"|[^\s;"]+))*)\s*(?:;|$)')
 SIGNO_PGN = re.compile(r"""
@@ -24,6 +26,10 @@ SIGNO_PGN = re.compile(r"""
   | (?P<jugada>[^\s(){};$\[\]]+)
   | (?P<ajeno>[^\s])
 """, re.VERBOSE | re.MULTILINE)
+
+
+class Ilegible(Exception):
+    """A file that cannot be read; the message names it and says why."""
 
 
 @dataclasses.dataclass
@@ -80,12 +86,15 @@ class Lectura:
 
 def leer_texto(nombre):
     """The text of a file, or of standard input for "-". Old collections are Latin-1, newer files UTF-8."""
-    if nombre == "-":
-        crudo = sys.stdin.buffer.read()
-    else:
-        abrir = next((abrir for fin, abrir in ABRIR.items() if nombre.endswith(fin)), open)
-        with abrir(nombre, "rb") as fichero:
-            crudo = fichero.read()
+    abrir = next((abrir for fin, abrir in ABRIR.items() if nombre.endswith(fin)), open)
+    try:
+        if nombre == "-":
+            crudo = sys.stdin.buffer.read()
+        else:
+            with abrir(nombre, "rb") as fichero:
+                crudo = fichero.read()
+    except FALLOS as error:
+        raise Ilegible(f"cannot read {nombre}: {getattr(error, 'strerror', None) or error}") from None
     try:
         texto = crudo.decode("utf-8-sig")
     except UnicodeDecodeError:

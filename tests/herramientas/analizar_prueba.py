@@ -204,10 +204,12 @@ class Analizar(unittest.TestCase):
     def test_lo_que_no_puede_ser_se_dice(self):
         self.escribir("one.fen", CUATRO)
         self.analizar("one.fen", "-o", "a")
+        (self.carpeta / "damaged.gz").write_bytes(b"\x1f\x8b\x08" + bytes(7) + b"\xff" * 20)
         for opciones, codigo, motivo in (
                 (["one.fen", "-o", "a", "-d4"], 1, "made with other settings"),
                 (["one.fen", "-O", "Hush=1"], 1, "Stand-in has no option Hush; it has Hash"),
                 (["missing.pgn"], 1, "missing.pgn"), (["one.fen", "-d0"], 2, "must be 1 or more"),
+                (["one.fen", "damaged.gz"], 1, "cannot read damaged.gz: "),
                 (["one.fen", "-o", "/dev/null"], 1, "/dev/null"), (["one.fen", "-e", "/bin/false"], 1, "status 1"),
                 (["one.fen", "-o", "b", "--parallel=--nonsense"], 1, "no position could be analysed")):
             with self.subTest(opciones):

@@ -89,7 +89,10 @@ class CrearLibro(unittest.TestCase):
 
     def test_lo_que_no_puede_ser_se_dice(self):
         self.crear(COLECCION)
-        for opciones, motivo in DISPARATES:
+        danado = self.origen + ".gz"
+        with open(danado, "wb") as fichero:
+            fichero.write(b"\x1f\x8b\x08" + bytes(7) + b"\xff" * 20)
+        for opciones, motivo in (*DISPARATES, ([danado], f"cannot read {danado}: ")):
             with self.subTest(opciones):
                 fin = self.llamar("-o", self.libro, self.origen, *opciones)
                 self.assertNotEqual(fin.returncode, 0)
