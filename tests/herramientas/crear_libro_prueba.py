@@ -19,7 +19,7 @@ def partida(jugadas, elo=2500, resultado="1-0", etiquetas=""):
 COLECCION = (
     partida("1. e4 {best} e5 2. Nf3 (2. f4 exf4) Nc6 3. Bb5 a6", 2200)
     + partida("1. e4 e5 2. Nf3 Nc6 3. Bc4", resultado="0-1")
-    + partida("1. e4 c5 2. Nf3", resultado="1/2-1/2")
+    + partida("1. e4 c5 2. Nf3", resultado="1/2-1/2", etiquetas='[SetUp "0"]\n')
     + partida("1. h4 g5 2. hxg5 h6 3. gxh6 Nf6 4. h7 Ng8 5. hxg8=Q d5")
     + partida("1. d4 d5 2. Ke2 Kd7")                    # not a legal game
     + partida("1. a8=Q+ Kd7", etiquetas='[SetUp "1"]\n[FEN "4k3/P7/8/8/8/8/8/4K3 w - - 0 1"]\n'))
