@@ -56,6 +56,16 @@ static bool HariaEsperar(const char* ruta) {
     return EsTuberia(ruta) != 0 || EsTuberia(diario) != 0;
 }
 
+// An empty file is what the plain engine leaves behind where it finds no book.
+static bool EstaVacio() {
+    sqlite3_stmt* sentencia = nullptr;
+    const bool    vacio =
+        sqlite3_prepare_v2(LibroSql.Conexion, "PRAGMA page_count", -1, &sentencia, nullptr) == SQLITE_OK &&
+        sqlite3_step(sentencia) == SQLITE_ROW && sqlite3_column_int(sentencia, 0) == 0;
+    sqlite3_finalize(sentencia);
+    return vacio;
+}
+
 // A handle is left also by an attempt that failed.
 static int AbrirFichero() {
     if (NumeroRutas == 0 && EsTuberia(DIARIO_LIBRO) != 0) return SQLITE_CANTOPEN;
@@ -65,6 +75,7 @@ static int AbrirFichero() {
         sqlite3_close(LibroSql.Conexion);
         LibroSql.Conexion = nullptr;
         if (!HariaEsperar(Rutas[i])) codigo = sqlite3_open_v2(Rutas[i], &LibroSql.Conexion, MODO_LECTURA, nullptr);
+        if (codigo == SQLITE_OK && EstaVacio()) codigo = SQLITE_CANTOPEN;
     }
     return codigo;
 }

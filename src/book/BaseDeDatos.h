@@ -8,8 +8,9 @@
 
 constexpr int RUTAS_LIBRO_MAX = 4;
 
-// From now on the book is the first of these files that can be opened; none of them is written or created. The texts
-// (UTF-8 paths, up to RUTAS_LIBRO_MAX) belong to the caller and must outlive the book. numero 0: as at the start.
+// From now on the book is the first of these files that can be opened and is not empty; none of them is written or
+// created. The texts (UTF-8 paths, up to RUTAS_LIBRO_MAX) belong to the caller and must outlive the book. numero 0: as
+// at the start.
 void FijarRutasLibro(const char* const* rutas, int numero);
 
 // Opens Book.db in the working directory; a missing file is created empty. With paths of its own, see above. Returns 1,

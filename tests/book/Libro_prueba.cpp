@@ -304,8 +304,9 @@ TEST_F(Libro, RutasPropiasNiSeCreanNiSeEscriben) {
     EscribirLibro({"'e2e4 e7e5'"});
     std::filesystem::rename("Book.db", "otro.db");
     std::filesystem::permissions("otro.db", std::filesystem::perms::owner_read);
-    const char* const rutas[] = {"falta.db", "otro.db"};
-    FijarRutasLibro(rutas, 2);
+    std::ofstream("vacio.db").close();
+    const char* const rutas[] = {"falta.db", "vacio.db", "otro.db"};
+    FijarRutasLibro(rutas, 3);
     EXPECT_EQ(Responder({"startpos moves e2e4"}), "e7e5");
     FijarRutasLibro(rutas, 1);
     EXPECT_EQ(Capturar([] { EXPECT_EQ(BuscarJugadaLibro(), 0); }), "Libro de apertura cargado: No.\n");
