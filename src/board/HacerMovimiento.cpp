@@ -267,6 +267,12 @@ void DeshacerMovimiento() {
     COMPROBAR_DESPUES_DE_DESHACER();
 }
 
+int EsLegal(std::uint32_t movimiento) {
+    const int legal = HacerMovimiento(movimiento);
+    DeshacerMovimiento();
+    return legal;
+}
+
 void HacerMovimientoNull() {
     RegistroTablero& t   = TableroGlobal;
     std::uint64_t    key = t.Key ^ zobrist_Turno;

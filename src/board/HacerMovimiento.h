@@ -13,6 +13,9 @@ int HacerMovimiento(std::uint32_t movimiento);
 // expose it. Any other value of en_jaque makes the full test.
 int HacerMovimientoConJaque(std::uint32_t movimiento, int en_jaque);
 
+// 1 when a pseudo-legal move of the side to move leaves its own king safe. The position is the same afterwards.
+int EsLegal(std::uint32_t movimiento);
+
 // Takes back the move recorded in Deshacer[Ply - 1].
 void DeshacerMovimiento();
 

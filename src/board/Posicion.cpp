@@ -29,8 +29,7 @@ static void ImprimirMovimientoIlegal(const char* texto) {
     Imprimir("info string Posici\363n Rey Negro: %d\n", t.PosicionReyNegro);
 }
 
-// The pseudo-legal move with this text, 0 when there is none.
-static std::uint32_t BuscarMovimiento(const char* texto) {
+std::uint32_t BuscarMovimiento(const char* texto) {
     ListaMovimientos lista;
     const int        numero = GenerarMovimientos(GENERAR_TODOS, lista);
     for (int i = 0; i < numero; ++i) {
@@ -86,12 +85,23 @@ static const char* ReunirFen(const char* texto, char* palabra, char* fen) {
     }
 }
 
+// What follows an illegal move belongs to another game: full UCI reports it and stops there.
+static bool AcabaLista(const char* palabra) {
+    if (UciCompleto.Activo == 0) return false;
+    const std::uint32_t mov = BuscarMovimiento(palabra);
+    if (mov != 0 && EsLegal(mov) != 0) return false;
+    ImprimirMovimientoIlegal(palabra);
+    return true;
+}
+
 // Plays the words that follow "moves".
 static void JugarLista(const char* texto) {
     char palabra[PALABRA_MAX];
     int  aplicado = 0;
-    for (texto = Split_String(texto, palabra); *palabra != '\0'; texto = Split_String(texto, palabra))
+    for (texto = Split_String(texto, palabra); *palabra != '\0'; texto = Split_String(texto, palabra)) {
+        if (AcabaLista(palabra)) return;
         Movimiento(palabra, &aplicado);
+    }
 }
 
 int Position_Fen_Startpos(const char* texto) {

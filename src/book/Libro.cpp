@@ -8,8 +8,8 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "board/Generacion.h"
 #include "board/HacerMovimiento.h"
+#include "board/Posicion.h"
 #include "book/BaseDeDatos.h"
 #include "book/LibroSql.h"
 #include "plataforma/Salida.h"
@@ -85,18 +85,9 @@ static void ObtenerJugadaLibro(const FilaLibro* filas, int numero) {
 }
 
 // The current line can be that of another game, and a row can hold anything.
-static bool EsLegal(const char* texto) {
-    ListaMovimientos lista;
-    const int        numero = GenerarMovimientos(GENERAR_TODOS, lista);
-    for (int i = 0; i < numero; ++i) {
-        char coordenadas[6];
-        MovimientoCoordenadas(lista.Entradas[i].Movimiento, coordenadas);
-        if (std::strcmp(coordenadas, texto) != 0) continue;
-        const bool legal = HacerMovimiento(lista.Entradas[i].Movimiento) != 0;
-        DeshacerMovimiento();
-        return legal;
-    }
-    return false;
+static bool EsJugable(const char* texto) {
+    const std::uint32_t movimiento = BuscarMovimiento(texto);
+    return movimiento != 0 && EsLegal(movimiento) != 0;
 }
 
 // Leaves the chosen move in LibroSql.Movimiento; returns false when there is none.
@@ -107,7 +98,7 @@ static bool ElegirJugada() {
     const int numero           = LeerFilas(filas);
     if (numero == 0) return false;
     ObtenerJugadaLibro(filas, numero);
-    return EsLegal(LibroSql.Movimiento);
+    return EsJugable(LibroSql.Movimiento);
 }
 
 int BuscarJugadaLibro() {

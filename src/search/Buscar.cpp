@@ -152,11 +152,8 @@ static std::uint32_t PrimerMovimientoLegal() {
     if (UciCompleto.NumeroRaiz != 0) return UciCompleto.Raiz[0];
     ListaMovimientos lista;
     const int        numero = GenerarMovimientos(GENERAR_TODOS, lista);
-    for (int i = 0; i < numero; ++i) {
-        const int legal = HacerMovimiento(lista.Entradas[i].Movimiento);
-        DeshacerMovimiento();
-        if (legal) return lista.Entradas[i].Movimiento;
-    }
+    for (int i = 0; i < numero; ++i)
+        if (EsLegal(lista.Entradas[i].Movimiento) != 0) return lista.Entradas[i].Movimiento;
     return 0;
 }
 

@@ -103,12 +103,6 @@ Presupuesto CalcularPresupuesto(const ParametrosGoCompleto& p, int turno, int ma
 
 // --- Root moves ---
 
-static bool EsLegal(std::uint32_t movimiento) {
-    const bool legal = HacerMovimiento(movimiento) != 0;
-    DeshacerMovimiento();
-    return legal;
-}
-
 // Does one of the words name the move?
 static bool EstaNombrado(const char* palabras, std::uint32_t movimiento) {
     char coordenadas[COORDENADAS_MAX];
@@ -127,7 +121,7 @@ static int ElegirRaiz(const char* palabras) {
     UciCompleto.NumeroRaiz   = 0;
     for (int i = 0; i < numero; ++i) {
         const std::uint32_t movimiento = lista.Entradas[i].Movimiento;
-        if (!EsLegal(movimiento)) continue;
+        if (EsLegal(movimiento) == 0) continue;
         ++legales;
         if (palabras != nullptr && EstaNombrado(palabras, movimiento))
             UciCompleto.Raiz[UciCompleto.NumeroRaiz++] = movimiento;
@@ -167,7 +161,8 @@ static void FijarLimites(const ParametrosGoCompleto& p, std::int64_t gastado) {
     UciCompleto.SinFin          = analisis || p.Ponder != 0 ? 1 : 0;
     UciCompleto.Ponderando      = p.Ponder;
     UciCompleto.MateBuscado     = static_cast<int>(std::clamp<std::int64_t>(p.MateEn, 0, PROFUNDIDAD_MAX));
-    UciCompleto.LimiteNodos   = p.Nodos == NO_DADO ? 0 : static_cast<std::uint64_t>(std::max<std::int64_t>(p.Nodos, 1));
+    UciCompleto.LimiteNodos =
+        p.Nodos == NO_DADO || analisis ? 0 : static_cast<std::uint64_t>(std::max<std::int64_t>(p.Nodos, 1));
     UciCompleto.MascaraSondeo = MASCARA_SONDEO;
     if (UciCompleto.LimiteNodos != 0)
         UciCompleto.MascaraSondeo =

@@ -26,6 +26,7 @@ static void EmpezarATenerPrisa() {
 }
 
 static DestinoLinea AtenderLinea(const char* principio) {
+    if (TipoJuego.Parar != 0) return LINEA_ULTIMA;
     char palabra[PALABRA_MAX];
     Split_String(principio, palabra);
     const auto es = [&palabra](const char* orden) { return std::strcmp(palabra, orden) == 0; };

@@ -8,7 +8,6 @@
 
 #include "board/EstadoMotor.h"
 #include "board/Palabras.h"
-#include "board/Posicion.h"
 #include "book/BaseDeDatos.h"
 #include "book/LibroSql.h"
 #include "plataforma/Programa.h"
@@ -37,7 +36,10 @@ static int LongitudUtf8(const char* texto, int letras) {
     if (longitud > letras) return 0;
     for (int i = 1; i < longitud; ++i)
         if ((byte(i) & 0xC0U) != 0x80) return 0;
-    return longitud;
+    // Longer than needed, a surrogate, beyond the last character.
+    const bool excluido = (byte(0) == 0xE0 && byte(1) < 0xA0) || (byte(0) == 0xED && byte(1) > 0x9F) ||
+                          (byte(0) == 0xF0 && byte(1) < 0x90) || (byte(0) == 0xF4 && byte(1) > 0x8F);
+    return excluido ? 0 : longitud;
 }
 
 static bool EsDelProtocolo(const char* linea, int letras) {
@@ -48,8 +50,8 @@ static bool EsDelProtocolo(const char* linea, int letras) {
     return false;
 }
 
-// What is UTF-8 already, such as a path that the interface has sent, stays; any other byte is one of Windows-1252,
-// whose upper half has the numbers of Unicode.
+// What is UTF-8 already, such as a path that the interface has sent, stays; any other byte is taken for
+// one of Latin-1, as are all letters of our own texts in Windows-1252.
 static int EscribirUtf8(const char* linea, int letras, char* destino) {
     int escritos = 0;
     while (letras > 0) {
@@ -195,20 +197,11 @@ static void SetoptionCompleto(const char* texto) {
 
 // --- Commands ---
 
-// A list that begins with an illegal move is reported like any other fault and ends nothing.
-static void PositionCompleto(const char* resto) {
-    SeguirPartida(resto);
-    Position_Fen_Startpos(resto);
-    Salir = 0;
-}
-
 int EjecutarCompleto(const char* palabra, const char* resto) {
     if (UciCompleto.Activo == 0) return 0;
     const auto es = [palabra](const char* orden) { return std::strcmp(palabra, orden) == 0; };
     if (es("setoption"))
         SetoptionCompleto(resto);
-    else if (es("position"))
-        PositionCompleto(resto);
     else if (es("go"))
         GoCompleto(resto);
     else

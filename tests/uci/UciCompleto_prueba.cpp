@@ -13,6 +13,9 @@ static const std::string ZUGZWANG = "position fen kbK5/pp6/1P6/8/8/8/8/R7 w - - 
 static const std::string MATE     = "position fen R5k1/5ppp/8/8/8/8/8/6K1 b - - 0 1\n";
 static const std::string AHOGADO  = "position fen 7k/5Q2/6K1/8/8/8/8/8 b - - 0 1\n";
 
+static const std::string ILEGAL   = "info string Movimiento ilegal: ";
+static const std::string TEXTOS   = "(info string [^\n]*\n)*";
+
 struct CasoCompleto {
     const char* nombre;
     std::string entrada;
@@ -29,6 +32,10 @@ static const CasoCompleto CASOS[] = {
     {"commands wait for their turn", LARGA + "go depth 5\nposition startpos\nisready\ngo depth 5\nisready\nquit\nuci\n",
      INFO + "readyok\n" + INFO + JUGADA + INFO + "(readyok\n" + INFO + JUGADA + "|" + JUGADA + "readyok\n)"},
     {"quit and stop pass a go behind a search without end", LARGA + "go infinite\ngo depth 1\nquit\n", INFO + JUGADA},
+    {"what stands behind a stop waits for its turn", LARGA + "go infinite\nstop\ngo depth 2\nquit\n", "(" + INFO + JUGADA + "){2}"},
+    {"a list ends at its first illegal move", "position startpos moves e2e4 e7e5 e4e6 d2d4\ngo depth 1 searchmoves a2a3\n"
+     "position fen 4k3/8/8/8/8/4r3/4B3/4K3 w - - 0 1 moves e2d3 e8e7\ngo depth 1 searchmoves e1d1\n",
+     ILEGAL + "e4e6\n" + TEXTOS + INFO + "bestmove a2a3[^\n]*\n" + ILEGAL + "e2d3\n" + TEXTOS + INFO + "bestmove e1d1[^\n]*\n"},
     {"mated, stalemated", MATE + "go movetime 9\n" + AHOGADO + "go infinite\nstop\n",
      "info depth 0 score mate 0\nbestmove 0000\ninfo depth 0 score cp 0\nbestmove 0000\n"},
     {"UTF-8, and nothing ends", "position startpos moves e2e5\nisready\n", "info string Movimiento ilegal: e2e5\n"
@@ -77,6 +84,10 @@ TEST(UciCompleto, AtiendeMientrasBusca) {
     motor.Enviar("isready\n");
     EXPECT_TRUE(motor.LeerHasta("readyok").ends_with("readyok\n"));
     motor.Enviar("ponderhit\n");
+    EXPECT_TRUE(TieneForma(motor.LeerHasta("bestmove"), INFO + JUGADA));
+    motor.Enviar(LARGA + "go infinite nodes 100\n");
+    EXPECT_EQ(motor.LeerHasta("bestmove", 300).find("bestmove"), std::string::npos) << "before stop";
+    motor.Enviar("stop\n");
     EXPECT_TRUE(TieneForma(motor.LeerHasta("bestmove"), INFO + JUGADA));
     motor.Enviar(AHOGADO + "go infinite\n");
     EXPECT_EQ(motor.LeerHasta("bestmove", 300).find("bestmove"), std::string::npos) << "before stop";
