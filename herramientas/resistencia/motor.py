@@ -26,6 +26,13 @@ class Colgado(Exception):
     """The engine has not answered in time."""
 
 
+def procesador(proceso="self"):
+    """Milliseconds that a process (by its number) has had a processor, and has waited for one while ready to run."""
+    with open(f"/proc/{proceso}/schedstat", encoding="ascii") as datos:
+        trabajo, espera, _ = datos.read().split()
+    return int(trabajo) / 1e6, int(espera) / 1e6
+
+
 class Motor:
     """argv: program and arguments; opciones: UCI options by name; carpeta: where it runs, None = here."""
 
@@ -119,8 +126,11 @@ class Motor:
 
     def trabajo(self):
         """Milliseconds of a processor that it has had."""
-        with open(f"/proc/{self.proceso.pid}/schedstat", encoding="ascii") as datos:
-            return int(datos.read().split()[0]) / 1e6
+        return procesador(self.proceso.pid)[0]
+
+    def espera(self):
+        """Milliseconds that it and we, who read its answer, have waited for a processor."""
+        return procesador(self.proceso.pid)[1] + procesador()[1]
 
     def uso(self):
         """Resident kilobytes and open descriptors."""

@@ -205,7 +205,7 @@ def jugar_partida(motores, jugadores, ritmo, partida, cuenta, notas):
         limite = bando.limite()
         orden = bando.orden(bandos[1 - turno], turno == 0)
         motor.decir(partida.orden())
-        antes = motor.trabajo()
+        trabajo, espera = motor.trabajo(), motor.espera()
         tiempo = 0 if limite is None else (limite.reloj or limite.movetime) / 1000
         jugada, gastados, _ = motor.jugar(orden, tiempo + PACIENCIA)
         nota = f"{jugador.nombre}, {ritmo.nombre}: {{}}: {partida.orden()} | {orden} | bestmove {jugada}"
@@ -220,8 +220,9 @@ def jugar_partida(motores, jugadores, ritmo, partida, cuenta, notas):
             if jugadores[1 - turno].completo is None:
                 return "*"      # it would rightly protest
         if limite is not None and reloj.vencido(limite, gastados):
-            clase, causa, gastados = (reloj.DE_OTROS, "", 0) if not nuestro else \
-                reloj.explicar(limite, jugador.completo, len(partida.jugadas), gastados, motor.trabajo() - antes)
+            clase, causa, gastados = (reloj.DE_OTROS, "", 0) if not nuestro else reloj.explicar(
+                limite, jugador.completo, len(partida.jugadas), gastados, motor.trabajo() - trabajo,
+                motor.espera() - espera)
             cuenta[clase] += 1
             if clase not in (reloj.MAQUINA, reloj.DE_OTROS):
                 notas.append(f"{jugador.nombre}, {ritmo.nombre}: {clase}: {causa}: {partida.orden()} | {orden}")

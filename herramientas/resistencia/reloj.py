@@ -54,15 +54,17 @@ def presupuesto_completo(limite):
     return "a share of the clock", max(1, int(min(util / partes + limite.incremento * 0.75, util * 0.6)))
 
 
-def explicar(limite, completo, jugadas, gastados, trabajo):
+def explicar(limite, completo, jugadas, gastados, trabajo, espera):
     """Why time ran out: the kind of forfeit, its figures, and the time that counts. trabajo: processor time that the
-    engine has had. When it did not get its time from a busy machine, the game goes on as if it had."""
+    engine has had; espera: time that it and its referee have waited for a processor. When a busy machine alone made it
+    late, the game goes on as if it had kept to its budget; an engine that sleeps or blocks has nobody to blame."""
     regla, plan = presupuesto_completo(limite) if completo else presupuesto(limite, jugadas)
     tenia = limite.reloj if limite.movetime is None else limite.movetime
-    datos = f"clock {tenia}, took {gastados:.0f}, processor {trabajo:.0f}, budget {plan} ({regla})"
+    datos = (f"clock {tenia}, took {gastados:.0f}, processor {trabajo:.0f}, waited for one {espera:.0f}, "
+             f"budget {plan} ({regla})")
     if plan >= tenia:
         return DE_REGLA, datos, gastados
-    return (MAQUINA, datos, plan) if trabajo <= plan + META else (CULPA, datos, gastados)
+    return (MAQUINA, datos, plan) if max(trabajo, gastados - espera) <= plan + META else (CULPA, datos, gastados)
 
 
 def vencido(limite, gastados):

@@ -28,10 +28,11 @@ class Arbitro(unittest.TestCase):
         self.assertEqual(reloj.presupuesto(reloj.Limite(1000), 0)[1], 750)
 
     def test_un_retraso_es_de_la_regla_de_la_maquina_o_del_motor(self):
-        for tiempo, gastados, trabajo, clase in ((477, 478, 470, reloj.DE_REGLA), (5000, 5001, 400, reloj.MAQUINA),
-                                                 (5000, 5001, 4000, reloj.CULPA)):
+        for tiempo, trabajo, espera, clase in (
+                (477, 470, 0, reloj.DE_REGLA), (5000, 400, 4590, reloj.MAQUINA), (5000, 4000, 900, reloj.CULPA),
+                (5000, 400, 0, reloj.CULPA), (5000, 400, 4400, reloj.CULPA)):     # it blocked
             limite = reloj.Limite(None, tiempo, 0, 1 if tiempo < 500 else 0)
-            self.assertEqual(reloj.explicar(limite, False, 0, gastados, trabajo)[0], clase)
+            self.assertEqual(reloj.explicar(limite, False, 0, tiempo + 1, trabajo, espera)[0], clase)
 
     def test_juzga_enroques(self):
         for fen, jugadas, enroque, legal, de_mas in ENROQUES:
