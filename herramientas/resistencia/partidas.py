@@ -4,6 +4,7 @@ The rules of chess that judge each move are those of herramientas/analisis, whic
 """
 
 import collections
+import concurrent.futures
 import contextlib
 import multiprocessing
 import os
@@ -276,14 +277,24 @@ def main():
     empezado, lotes = time.monotonic(), repartir(partidas)
     random.Random(SEMILLA).shuffle(lotes)
     por_pareja, total = collections.defaultdict(collections.Counter), collections.Counter()
-    with multiprocessing.Pool() as trabajadores, contextlib.suppress(KeyboardInterrupt):
-        hechos = trabajadores.imap_unordered(jugar_lote, [(SEMILLA + i, *lote) for i, lote in enumerate(lotes)])
-        for numero, (nombre, cuenta, notas) in enumerate(hechos, 1):
-            por_pareja[nombre] += cuenta
-            total += cuenta
-            print(*notas, sep="\n", end="\n" if notas else "", flush=True)
-            if numero % 10 == 0:
-                print(f"{total['games']} of {partidas} games", file=sys.stderr, flush=True)
+    # An interrupt typed at the terminal shall come here only.
+    with (contextlib.suppress(KeyboardInterrupt), concurrent.futures.ProcessPoolExecutor(
+            initializer=signal.signal, initargs=(signal.SIGINT, signal.SIG_IGN)) as trabajadores):
+        hechos = [trabajadores.submit(jugar_lote, (SEMILLA + i, *lote)) for i, lote in enumerate(lotes)]
+        try:
+            for numero, hecho in enumerate(concurrent.futures.as_completed(hechos), 1):
+                nombre, cuenta, notas = hecho.result()
+                por_pareja[nombre] += cuenta
+                total += cuenta
+                print(*notas, sep="\n", end="\n" if notas else "", flush=True)
+                if numero % 10 == 0:
+                    print(f"{total['games']} of {partidas} games", file=sys.stderr, flush=True)
+        except concurrent.futures.BrokenExecutor:
+            total["LOST WORKERS"] += 1      # killed, as by a system without memory
+        except BaseException:
+            for trabajador in multiprocessing.active_children():    # else they would play all lots to their end
+                trabajador.terminate()
+            raise
     for nombre, cuenta in sorted(por_pareja.items()):
         print(f"{nombre:52} {cuenta['games']:5} games +{cuenta['won']} ={cuenta['drawn']} -{cuenta['lost']}")
     print(f"{time.monotonic() - empezado:.0f} s; " + ", ".join(
