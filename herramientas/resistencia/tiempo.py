@@ -1,4 +1,8 @@
-"""Real time over budget of timed searches, from the line "go" sent to "bestmove" received. Argument: searches."""
+"""Real time over budget of timed searches, from the line "go" sent to "bestmove" received. Argument: searches.
+
+A table is cleared as interfaces do it: "ucinewgame" or a new option, then "isready" and its "readyok", then the search
+that is timed. The clearing itself is in no figure.
+"""
 
 import os
 import random
@@ -45,7 +49,7 @@ def limite(azar, completo):
 
 
 def limpiar(motor, azar, megas):
-    """Between games: clears or makes the table, and waits for the engine as the protocol asks for."""
+    """Between games: clears or makes the table, and waits for the engine as interfaces do."""
     limpieza = azar.choice(LIMPIEZAS)
     if limpieza:
         motor.decir(limpieza)
@@ -122,6 +126,8 @@ def main():
     finally:
         for ocupado in ocupados:
             ocupado.kill()
+    print("after clearing: the first search behind ucinewgame or a new option, isready and its readyok; "
+          "one sent without isready waits for the clearing, and is not timed here")
     print(f"goal, 99.9 % within {reloj.META} ms on a quiet machine: {'met' if quieto <= reloj.META else 'missed'}")
     return 0 if quieto <= reloj.META else 1
 
