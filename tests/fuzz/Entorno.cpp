@@ -74,10 +74,8 @@ void LiberarMemoria(void* memoria, std::size_t /*bytes*/) {
 
 // --- What is asked of an answer ---
 
-static bool EsLegal(std::uint32_t movimiento) {
-    const bool legal = movimiento != 0 && HacerMovimiento(movimiento) != 0;
-    if (movimiento != 0) DeshacerMovimiento();
-    return legal;
+static bool EsJugable(std::uint32_t movimiento) {
+    return movimiento != 0 && EsLegal(movimiento) != 0;
 }
 
 // The board is that of the search.
@@ -87,11 +85,11 @@ static void ComprobarJugada(const std::string& linea) {
     const std::uint32_t movimiento = Buscado(jugada);
     if (Salir != 0) return;  // the board has more moves than a list holds
     Exigir(TableroGlobal.Ply == 0, "the search has not taken back its moves");
-    Exigir(jugada == "0000" ? std::none_of(movimientos.begin(), movimientos.end(), EsLegal) : EsLegal(movimiento),
+    Exigir(jugada == "0000" ? std::none_of(movimientos.begin(), movimientos.end(), EsJugable) : EsJugable(movimiento),
            "illegal move");
     if (ponder.empty()) return;
     HacerMovimiento(movimiento);
-    Exigir(EsLegal(Buscado(ponder)), "illegal move to ponder on");
+    Exigir(EsJugable(Buscado(ponder)), "illegal move to ponder on");
     DeshacerMovimiento();
 }
 
