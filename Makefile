@@ -19,19 +19,25 @@ else
 endif
 
 SOURCES = $(filter-out %_$(OTHER_SYSTEM).cpp,$(wildcard src/*/*.cpp src/*/*/*.cpp))
-# Objects of one compiler serve every name of the program.
-OBJECTS = $(SOURCES:src/%.cpp=build/make-$(notdir $(CXX))/%.o)
+OBJECTS = $(SOURCES:src/%.cpp=build/make/%.o)
+COMPILE = $(CXX) $(CXXFLAGS) $(CPPFLAGS) $(ENGINE_FLAGS) $(DEFINES)
+LINK = $(CXX) $(CXXFLAGS) $(OBJECTS) $(LDFLAGS) $(LDLIBS)
 
 $(EXE)$(SUFFIX): $(OBJECTS)
-	$(CXX) $(CXXFLAGS) $(OBJECTS) $(LDFLAGS) $(LDLIBS) -o $@
+	$(LINK) -o $@
 
-build/make-$(notdir $(CXX))/%.o: src/%.cpp
+build/make/%.o: src/%.cpp build/make/commands
 	@mkdir -p $(@D)
-	$(CXX) $(CXXFLAGS) $(CPPFLAGS) $(ENGINE_FLAGS) $(DEFINES) -MMD -MP -c $< -o $@
+	$(COMPILE) -MMD -MP -c $< -o $@
+
+# Objects of one compiler and its flags serve every name of the program; with others everything is made anew.
+build/make/commands: FORCE
+	@mkdir -p $(@D)
+	@[ "$$(cat $@ 2>/dev/null)" = '$(COMPILE) $(LINK)' ] || echo '$(COMPILE) $(LINK)' >$@
 
 -include $(OBJECTS:.o=.d)
 
 clean:
-	rm -rf build/make-* $(EXE)$(SUFFIX)
+	rm -rf build/make $(EXE)$(SUFFIX)
 
-.PHONY: clean
+.PHONY: clean FORCE
