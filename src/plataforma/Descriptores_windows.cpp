@@ -1,8 +1,13 @@
 #include "plataforma/Descriptores.h"
 
-// A process may open files by the million here.
-int HayDescriptores(int /*numero*/) {
-    return 1;
+#include <cstdio>
+
+constexpr int FLUJOS_ESTANDAR = 3;
+
+// What limits here is the C library's table of streams, which a library built with the same tools shares. It holds all
+// tablebases twice.
+int HayDescriptores(int numero) {
+    return FLUJOS_ESTANDAR + numero <= _getmaxstdio() ? 1 : 0;
 }
 
 // Pipes have a place of their own here and do not lie in folders.
@@ -10,6 +15,10 @@ int EsTuberia(const char* /*ruta*/) {
     return 0;
 }
 
-// What a library forgets is left to the system: there is room enough, and no list of files to go through.
+// Nobody else keeps streams open, so there is nothing to note. Those of a library with a C library of its own are out
+// of reach.
 void AnotarDescriptores() {}
-void CerrarDescriptoresNuevos() {}
+
+void CerrarDescriptoresNuevos() {
+    _fcloseall();
+}

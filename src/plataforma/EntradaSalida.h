@@ -8,9 +8,6 @@ int LeerBytes(char* destino, int capacidad);
 // 1 when LeerBytes would not wait: bytes are there, or the input has ended or failed.
 int HayBytes();
 
-// From now on a reader that has gone and a limit on the size of files end nothing by a signal: EscribirBytes tells.
-void IgnorarSenalesDeEscritura();
-
 // Writes every byte, waiting for as long as the reader does not take them. Returns 0 when nobody reads any more or the
 // file may not grow, else 1, also when the disk had no room for the rest.
 int EscribirBytes(const char* bytes, int numero);

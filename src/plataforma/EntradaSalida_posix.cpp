@@ -2,7 +2,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <csignal>
 
 #include "plataforma/EntradaSalida.h"
 
@@ -28,11 +27,6 @@ int LeerBytes(char* destino, int capacidad) {
 
 int HayBytes() {
     return Sondear(STDIN_FILENO, POLLIN, SIN_ESPERA) > 0 ? 1 : 0;
-}
-
-void IgnorarSenalesDeEscritura() {
-    std::signal(SIGPIPE, SIG_IGN);
-    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 int EscribirBytes(const char* bytes, int numero) {

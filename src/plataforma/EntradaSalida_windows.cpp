@@ -2,10 +2,13 @@
 
 #include <io.h>
 
+#include <cerrno>
+
 #include "plataforma/EntradaSalida.h"
 
 constexpr DWORD EVENTOS_MAX     = 512;  // console events that one test looks at
 constexpr int   SALIDA_ESTANDAR = 1;    // descriptor
+constexpr DWORD ESPERA_LECTOR   = 1;    // milliseconds between two tries at a full pipe
 
 static int    init = 0;  // 1 once the input has been examined, on the first poll
 static HANDLE inh  = nullptr;
@@ -37,10 +40,18 @@ static int HayLineaDeConsola() {
     return 0;
 }
 
+// Only a pipe with a writer can be looked into.
+static bool EsTuberiaAbierta(HANDLE fichero, DWORD* esperan) {
+    return PeekNamedPipe(fichero, nullptr, 0, nullptr, esperan, nullptr) != 0;
+}
+
+// Who writes nothing to a pipe ends a waiting read without bytes; the input goes on.
 int LeerBytes(char* destino, int capacidad) {
-    DWORD leidos = 0;
-    if (ReadFile(GetStdHandle(STD_INPUT_HANDLE), destino, static_cast<DWORD>(capacidad), &leidos, nullptr) == 0)
-        return 0;
+    const HANDLE entrada = GetStdHandle(STD_INPUT_HANDLE);
+    DWORD        leidos  = 0;
+    do {
+        if (ReadFile(entrada, destino, static_cast<DWORD>(capacidad), &leidos, nullptr) == 0) return 0;
+    } while (leidos == 0 && EsTuberiaAbierta(entrada, nullptr));
     return static_cast<int>(leidos);
 }
 
@@ -48,21 +59,29 @@ int HayBytes() {
     if (init == 0) ExaminarEntrada();
     if (pipe == 0) return HayLineaDeConsola();
     DWORD esperan = 0;
-    if (PeekNamedPipe(inh, nullptr, 0, nullptr, &esperan, nullptr) == 0) return 1;  // a file, or a closed pipe
+    if (!EsTuberiaAbierta(inh, &esperan)) return 1;  // a file, or a pipe at its end
     return esperan != 0 ? 1 : 0;
 }
 
-// There are no such signals here.
-void IgnorarSenalesDeEscritura() {}
+static bool EsTuberia(int descriptor) {
+    return GetFileType(reinterpret_cast<HANDLE>(_get_osfhandle(descriptor))) == FILE_TYPE_PIPE;
+}
 
-// Through the descriptor of the C library, which ends lines as this system does. It blocks, so a call that takes
-// nothing has failed.
+// Through the descriptor of the C library, which ends lines as this system does. It answers ENOSPC whenever there was
+// room for nothing: on a disk, or in a pipe that does not block.
 int EscribirBytes(const char* bytes, int numero) {
     while (numero > 0) {
         const int escritos = _write(SALIDA_ESTANDAR, bytes, static_cast<unsigned>(numero));
-        if (escritos <= 0) return GetLastError() == ERROR_DISK_FULL ? 1 : 0;
-        bytes += escritos;
-        numero -= escritos;
+        if (escritos > 0) {
+            bytes += escritos;
+            numero -= escritos;
+        } else if (errno != ENOSPC) {
+            return 0;
+        } else if (EsTuberia(SALIDA_ESTANDAR)) {
+            Sleep(ESPERA_LECTOR);
+        } else {
+            return 1;
+        }
     }
     return 1;
 }

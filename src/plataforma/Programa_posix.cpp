@@ -1,8 +1,14 @@
 #include <unistd.h>
 
+#include <csignal>
 #include <cstring>
 
 #include "plataforma/Programa.h"
+
+void PrepararPrograma() {
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+}
 
 int CarpetaDelPrograma(char* carpeta, int capacidad) {
     const ssize_t letras       = readlink("/proc/self/exe", carpeta, static_cast<std::size_t>(capacidad));

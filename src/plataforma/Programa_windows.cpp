@@ -6,6 +6,11 @@
 
 constexpr DWORD RUTA_PROGRAMA = 1024;  // characters
 
+// There are no such signals here.
+void PrepararPrograma() {
+    SetErrorMode(GetErrorMode() | SEM_FAILCRITICALERRORS);
+}
+
 int CarpetaDelPrograma(char* carpeta, int capacidad) {
     wchar_t     ruta[RUTA_PROGRAMA];
     const DWORD letras = GetModuleFileNameW(nullptr, ruta, RUTA_PROGRAMA);

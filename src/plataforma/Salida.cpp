@@ -10,10 +10,6 @@
 static int          Perdida = 0;
 static FiltroSalida Filtro  = nullptr;
 
-void PrepararSalida() {
-    IgnorarSenalesDeEscritura();
-}
-
 static void Enviar(const char* bytes, int numero) {
     if (Perdida == 0 && EscribirBytes(bytes, numero) == 0) Perdida = 1;
 }

@@ -5,10 +5,6 @@
 
 constexpr int SALIDA_MAX = 8192;  // bytes of one call; what is longer is cut, its line end kept
 
-// Output that nobody takes any more shall not end the program by a signal. To be called before the first line, and
-// before anything else writes to a file.
-void PrepararSalida();
-
 // Prints one or more whole lines, with the format of printf.
 [[gnu::format(printf, 1, 2)]] void Imprimir(const char* formato, ...);
 

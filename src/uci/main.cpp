@@ -7,6 +7,7 @@
 
 #include "board/EstadoMotor.h"
 #include "board/Palabras.h"
+#include "plataforma/Programa.h"
 #include "plataforma/Reloj.h"
 #include "plataforma/Salida.h"
 #include "uci/Arranque.h"
@@ -77,7 +78,7 @@ static int ResponderInformacion(int argc, char** argv) {
 }
 
 int main(int argc, char** argv) {
-    PrepararSalida();
+    PrepararPrograma();
     if (ResponderInformacion(argc, argv) != 0) return EXIT_SUCCESS;
     Argumentos argumentos{};
     argumentos.UciCompleto = UCI_COMPLETO_DE_SERIE;

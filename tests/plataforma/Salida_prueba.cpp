@@ -12,6 +12,8 @@
 #include <string>
 #include <thread>
 
+#include "plataforma/Programa.h"
+
 // Standard output goes to this descriptor meanwhile.
 static void ConSalida(int descriptor, const std::function<void()>& accion) {
     const int anterior = dup(STDOUT_FILENO);
@@ -44,7 +46,7 @@ TEST(Salida, EsperaAlLectorNoAlDiscoYTerminaSinNinguno) {
 
     std::signal(SIGPIPE, SIG_DFL);
     std::signal(SIGXFSZ, SIG_DFL);
-    PrepararSalida();
+    PrepararPrograma();
     ConSalida(open("/dev/full", O_WRONLY), [] { Imprimir("uciok\n"); });
     EXPECT_EQ(SalidaPerdida(), 0) << "a full disk";
     const rlimit sin_ficheros{0, RLIM_INFINITY};
