@@ -170,7 +170,7 @@ class Analizar(unittest.TestCase):
         programa.symlink_to(TAMREK)
         for numero, (opciones, codigo, hondo, nodos) in enumerate(LIMITES):
             with self.subTest(opciones):
-                orden = [sys.executable, "herramientas/analizar", "one.fen", "--timeout=20", "-o", str(numero)]
+                orden = [sys.executable, "herramientas/analizar", "one.fen", "-j1", "--timeout=20", "-o", str(numero)]
                 fin = subprocess.run(orden + opciones, cwd=self.carpeta, capture_output=True, text=True, check=False)
                 self.assertEqual(fin.returncode, codigo, fin.stderr)
                 for fila in self.filas(str(numero)) if codigo == 0 else ():
