@@ -8,7 +8,6 @@
 
 constexpr DWORD EVENTOS_MAX     = 512;  // console events that one test looks at
 constexpr int   SALIDA_ESTANDAR = 1;    // descriptor
-constexpr DWORD ESPERA_LECTOR   = 1;    // milliseconds between two tries at a full pipe
 
 static int    init = 0;  // 1 once the input has been examined, on the first poll
 static HANDLE inh  = nullptr;
@@ -63,25 +62,14 @@ int HayBytes() {
     return esperan != 0 ? 1 : 0;
 }
 
-static bool EsTuberia(int descriptor) {
-    return GetFileType(reinterpret_cast<HANDLE>(_get_osfhandle(descriptor))) == FILE_TYPE_PIPE;
-}
-
-// Through the descriptor of the C library, which ends lines as this system does. It answers ENOSPC whenever there was
-// room for nothing: on a disk, or in a pipe that does not block.
+// Through the descriptor of the C library, which ends lines as this system does. It blocks, so a call that takes
+// nothing has failed; a disk without room answers ENOSPC.
 int EscribirBytes(const char* bytes, int numero) {
     while (numero > 0) {
         const int escritos = _write(SALIDA_ESTANDAR, bytes, static_cast<unsigned>(numero));
-        if (escritos > 0) {
-            bytes += escritos;
-            numero -= escritos;
-        } else if (errno != ENOSPC) {
-            return 0;
-        } else if (EsTuberia(SALIDA_ESTANDAR)) {
-            Sleep(ESPERA_LECTOR);
-        } else {
-            return 1;
-        }
+        if (escritos <= 0) return errno == ENOSPC ? 1 : 0;
+        bytes += escritos;
+        numero -= escritos;
     }
     return 1;
 }
