@@ -29,7 +29,8 @@ static void ImprimirMovimientoIlegal(const char* texto) {
     Imprimir("info string Posici\363n Rey Negro: %d\n", t.PosicionReyNegro);
 }
 
-std::uint32_t BuscarMovimiento(const char* texto) {
+// The pseudo-legal move with this text, 0 when there is none.
+static std::uint32_t BuscarMovimiento(const char* texto) {
     ListaMovimientos lista;
     const int        numero = GenerarMovimientos(GENERAR_TODOS, lista);
     for (int i = 0; i < numero; ++i) {
@@ -39,6 +40,11 @@ std::uint32_t BuscarMovimiento(const char* texto) {
         if (std::strcmp(coordenadas, texto) == 0) return mov;
     }
     return 0;
+}
+
+std::uint32_t BuscarMovimientoLegal(const char* texto) {
+    const std::uint32_t mov = BuscarMovimiento(texto);
+    return mov != 0 && EsLegal(mov) != 0 ? mov : 0;
 }
 
 // A long game would fill HistorialKeys, and from then on making and unmaking would no longer balance.
@@ -87,9 +93,7 @@ static const char* ReunirFen(const char* texto, char* palabra, char* fen) {
 
 // What follows an illegal move belongs to another game: full UCI reports it and stops there.
 static bool AcabaLista(const char* palabra) {
-    if (UciCompleto.Activo == 0) return false;
-    const std::uint32_t mov = BuscarMovimiento(palabra);
-    if (mov != 0 && EsLegal(mov) != 0) return false;
+    if (UciCompleto.Activo == 0 || BuscarMovimientoLegal(palabra) != 0) return false;
     ImprimirMovimientoIlegal(palabra);
     return true;
 }

@@ -10,8 +10,8 @@ constexpr char FEN_INICIAL[] = "rnbqkbnr/pppppppp/8/8/8/8/PPPPPPPP/RNBQKBNR w KQ
 // In full UCI a list ends at its first illegal move, which prints its diagnosis and raises nothing.
 int Position_Fen_Startpos(const char* texto);
 
-// The pseudo-legal move with this text in coordinate notation, 0 when there is none.
-std::uint32_t BuscarMovimiento(const char* texto);
+// The legal move with this text in coordinate notation, 0 when there is none.
+std::uint32_t BuscarMovimientoLegal(const char* texto);
 
 // Finds texto (coordinate notation) among the pseudo-legal moves and plays it, legal or not. *aplicado belongs to
 // the caller, starts at 0 and becomes 1 with the first move played; from then on an unknown move is skipped in

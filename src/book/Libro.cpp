@@ -8,7 +8,6 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "board/HacerMovimiento.h"
 #include "board/Posicion.h"
 #include "book/BaseDeDatos.h"
 #include "book/LibroSql.h"
@@ -84,12 +83,6 @@ static void ObtenerJugadaLibro(const FilaLibro* filas, int numero) {
     std::memcpy(LibroSql.Movimiento, fila, std::min(std::strlen(fila), LETRAS_JUGADA));
 }
 
-// The current line can be that of another game, and a row can hold anything.
-static bool EsJugable(const char* texto) {
-    const std::uint32_t movimiento = BuscarMovimiento(texto);
-    return movimiento != 0 && EsLegal(movimiento) != 0;
-}
-
 // Leaves the chosen move in LibroSql.Movimiento; returns false when there is none.
 static bool ElegirJugada() {
     if (!EsLineaDeJugadas(LibroSql.Linea)) return false;
@@ -98,7 +91,8 @@ static bool ElegirJugada() {
     const int numero           = LeerFilas(filas);
     if (numero == 0) return false;
     ObtenerJugadaLibro(filas, numero);
-    return EsJugable(LibroSql.Movimiento);
+    // The current line can be that of another game, and a row can hold anything.
+    return BuscarMovimientoLegal(LibroSql.Movimiento) != 0;
 }
 
 int BuscarJugadaLibro() {

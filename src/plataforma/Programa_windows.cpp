@@ -6,7 +6,7 @@
 
 constexpr DWORD RUTA_PROGRAMA = 1024;  // characters
 
-// There are no such signals here.
+// There are no such signals here, but windows.
 void PrepararPrograma() {
     SetErrorMode(GetErrorMode() | SEM_FAILCRITICALERRORS);
 }

@@ -16,6 +16,10 @@ static const std::string AHOGADO  = "position fen 7k/5Q2/6K1/8/8/8/8/8 b - - 0 1
 static const std::string ILEGAL   = "info string Movimiento ilegal: ";
 static const std::string TEXTOS   = "(info string [^\n]*\n)*";
 
+// Longer than needed, a surrogate, beyond the last character: each byte by itself.
+static const std::string NO_UTF8 = "\340\200\200\355\240\200\364\220\200\200";
+static const std::string EN_UTF8 = "\303\240(\302\200){2}\303\255\302\240\302\200\303\264\302\220(\302\200){2}";
+
 struct CasoCompleto {
     const char* nombre;
     std::string entrada;
@@ -41,14 +45,14 @@ static const CasoCompleto CASOS[] = {
     {"UTF-8, and nothing ends", "position startpos moves e2e5\nisready\n", "info string Movimiento ilegal: e2e5\n"
      "info string Enroque Blancas: 3\ninfo string Enroque Negras: 3\ninfo string Ficha al Paso: 0\n"
      "info string Posici\303\263n Rey Blanco: 60\ninfo string Posici\303\263n Rey Negro: 4\nreadyok\n"},
-    {"options", "setoption name MOVE overhead value 70 \nsetoption name BookFile value /\303\263 \363.db\nsetoption name\n"
+    {"options", "setoption name MOVE overhead value 70 \nsetoption name BookFile value /\303\263 \363" + NO_UTF8 + "\342\202\254.db\nsetoption name\n"
      "setoption name Hash value 9\nsetoption name Clear Hash\nsetoption name GaviotaTbPath value <empty>\n"
      "setoption name Threads value 2\nsetoption name A value " + std::string(300, 'x') + "\nuci\n",
      "info string Opci\303\263n desconocida: .\ninfo string Valor incorrecto para Threads.\n"
      "info string Opci\303\263n desconocida: A.\nid name [^\n]*\nid author [^\n]*\noption name Hash type spin default 9 [^\n]*\n"
      "(option [^\n]*\n){4}option name GaviotaTbPath type string default empty\n(option [^\n]*\n){2}"
      "option name Move Overhead type spin default 70 [^\n]*\n"
-     "option name BookFile type string default /\303\263 \303\263.db\n(option [^\n]*\n){3}uciok\n"},
+     "option name BookFile type string default /\303\263 \303\263" + EN_UTF8 + "\342\202\254.db\n(option [^\n]*\n){3}uciok\n"},
     {"no such book", "setoption name BookFile value none.db\nsetoption name OwnBook value true\ngo depth 1\n",
      "info string Libro de apertura cargado: No.\n" + INFO + JUGADA},
 };
